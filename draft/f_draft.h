@@ -1,0 +1,85 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "ui/controls.h"
+#include "ui/screen.h"
+
+namespace frostmark {
+
+class Program;
+
+// The yearly draft: every team in turn loses one player and takes another from the pool.
+class FDraft : public Screen {
+ public:
+  explicit FDraft(Program& program);
+
+  TabStrip XTab1{*this, "XTab1", {"Draft"}};
+  Label Label1{*this, "Label1", "Current Rank:"};
+  Label CurRank{*this, "CurRank", "Rank F"};
+  Label Label2{*this, "Label2", "Current Team:"};
+  Label CurTeam{*this, "CurTeam", "No one"};
+  Label Label3{*this, "Label3", "Draft Speed:", Start::kNeverShown};
+  ScrollBar HScroll1{*this, "HScroll1", Start::kNeverShown};
+  Label Label4{*this, "Label4",
+               "Goalies                    Left Defenders                    Right Defenders"};
+  // The pool. Element 0 of a pair shows the pool lines of the records in element 1, best first.
+  ListPair List1{*this, "List1"};  // "GO"
+  ListPair List2{*this, "List2"};  // "LD"
+  ListPair List3{*this, "List3"};  // "RD"
+  Label Label6{*this, "Label6",
+               "Left Forwards                    Center Forwards                    Right Forwards"};
+  ListPair List4{*this, "List4"};  // "LF"
+  ListPair List5{*this, "List5"};  // "CF"
+  ListPair List6{*this, "List6"};  // "RF"
+  Label Label5{*this, "Label5", "History:"};
+  ListBox Events{*this, "Events"};  // this year's draft, oldest line first
+  Button Command1{*this, "Command1", "New Season", Start::kDisabled};
+  ListBox tempList{*this, "tempList", Start::kNeverShown};  // the roster of the team in turn
+  FileListBox File1{*this, "File1", Start::kNeverShown};    // the teams of the league in turn
+
+  // True while the user's team has its turn.
+  bool AwaitingPick = false;
+  // The record that a team has let go and that still has to go back into the pool.
+  std::string ReleasedPlayer;
+
+  // The pool in its fixed order, and the position of each pair.
+  static constexpr std::array<const char*, 6> kPositions = {"GO", "LD", "RD", "LF", "CF", "RF"};
+  std::array<ListPair*, 6> Pool() { return {&List1, &List2, &List3, &List4, &List5, &List6}; }
+  // The pair of POSITION, or nullptr when it is none of the six.
+  ListPair* PoolOf(std::string_view position);
+
+  // draft/cpu_draft.cpp
+  void ConnectDraft();
+  // Gives all 36 teams their turn, from "Rank A" down. Stops at the user's until he has picked.
+  void RunDraft();
+
+  // draft/player_picks.cpp
+  void ConnectPicks();
+  // Puts RECORD back into the pool and empties it.
+  void AddDraftee(std::string& record);
+  void PickFromPool(ListPair& list);
+  void PressNewSeason();
+  // Opens or closes all six lists of the pool.
+  void SetPoolEnabled(bool enabled);
+
+  // The lines of Events. RECORD is the player's.
+  void AddRetirement(const std::string& record);
+  void AddRelease(const std::string& record);
+  void AddPick(const std::string& record);
+
+ private:
+  void TakeTurn(int team);
+  int FindRetirement();
+  std::string PartWithPlayer();
+  std::string ReleasePlayer();
+  void Refill(std::string_view training);
+  void StartPlayerTurn();
+  void OpenPoolList(const std::string& position);
+
+  Program& program_;
+};
+
+}  // namespace frostmark

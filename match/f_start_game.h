@@ -1,0 +1,36 @@
+#pragma once
+
+#include "ui/controls.h"
+#include "ui/screen.h"
+
+namespace frostmark {
+
+class Program;
+
+// The choice of two teams for a single game, which changes nothing in the franchise.
+class FStartGame : public Screen {
+ public:
+  explicit FStartGame(Program& program);
+
+  Label Label1{*this, "Label1", "Choose your team...                    Choose your opponent...."};
+  ListBox List3{*this, "List3"};  // the leagues, for the left column
+  ListBox List4{*this, "List4"};  // the same, for the right column
+  FileListBox File1{*this, "File1"};
+  FileListBox File2{*this, "File2"};
+  ListBox List1{*this, "List1", Start::kNeverShown};  // the roster of the team chosen in File1
+  ListBox List2{*this, "List2", Start::kNeverShown};  // of the one chosen in File2
+  Button HighButton1{*this, "HighButton1", "Begin"};
+  Label Label2{*this, "Label2", "x"};  // a close mark
+
+  // match/single_game.cpp
+  void ConnectSingleGame();
+  void PressBegin();
+
+ private:
+  void ChooseLeague(const ListBox& leagues, FileListBox& teams);
+  void ChooseTeam(const FileListBox& teams, ListBox& roster);
+
+  Program& program_;
+};
+
+}  // namespace frostmark

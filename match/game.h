@@ -1,0 +1,111 @@
+#pragma once
+
+#include <string>
+
+#include "records/numbers.h"
+#include "ui/controls.h"
+#include "ui/screen.h"
+
+namespace frostmark {
+
+class Program;
+
+// One game in front of the user: three periods of 200 steps on timers, the rink and the
+// play-by-play. It is a match machine of its own beside GameSimulation, on the screen's own lists,
+// and differs from it in many small ways that are all wanted.
+class Game : public Screen {
+ public:
+  explicit Game(Program& program);
+
+  TabStrip XTab1{*this, "XTab1", {"Roster", "Game"}};
+
+  // Tab "Roster".
+  Frame Frame1{XTab1.Page(0), "Frame1", "Home"};
+  Label RHome{Frame1, "RHome"};
+  ListBox Line1{Frame1, "Line1"};
+  Frame Frame3{XTab1.Page(0), "Frame3", "Visitor"};
+  Label RVisitor{Frame3, "RVisitor"};
+  ListBox Line2{Frame3, "Line2"};
+  ListBox Line1Stats{*this, "Line1Stats", Start::kNeverShown};  // records of the lead lines
+  ListBox Line2Stats{*this, "Line2Stats", Start::kNeverShown};
+  ListBox LineList{*this, "LineList", Start::kNeverShown};  // the line with the puck, reversed
+  ListBox DefList{*this, "DefList", Start::kNeverShown};    // the other line, reversed
+
+  // Tab "Game".
+  Label Label1{XTab1.Page(1), "Label1", "Home:"};
+  Label GHome{XTab1.Page(1), "GHome"};
+  Label Label3{XTab1.Page(1), "Label3", "0"};  // the home team's goals: there is no other score
+  Label Label2{XTab1.Page(1), "Label2", "Visitor:"};
+  Label GVisitor{XTab1.Page(1), "GVisitor"};
+  Label Label4{XTab1.Page(1), "Label4", "0"};  // the visitor's goals
+  ListBox Events{XTab1.Page(1), "Events"};     // the play-by-play, newest on top
+  ProgressBar Period1{XTab1.Page(1), "Period1", 200};  // steps played in the period
+  ProgressBar Period2{XTab1.Page(1), "Period2", 200};
+  ProgressBar Period3{XTab1.Page(1), "Period3", 200};
+  Timer Timer1{*this, "Timer1", 100};
+  Timer Timer2{*this, "Timer2", 100};
+  Timer Timer3{*this, "Timer3", 100};
+  Button HighButton1{XTab1.Page(1), "HighButton1", "Start"};
+  Button HighButton2{XTab1.Page(1), "HighButton2", "Close", Start::kHidden};
+  Label Label5{XTab1.Page(1), "Label5", "x"};  // a close mark, abandons the game
+  Picture Picture1{XTab1.Page(1), "Picture1"};  // the rink
+  // The Overall of the home team's lead players, on the left half of the rink.
+  Label vGoalie{XTab1.Page(1), "vGoalie", "00"};
+  Label vRDef{XTab1.Page(1), "vRDef", "00"};
+  Label vLDef{XTab1.Page(1), "vLDef", "00"};
+  Label vRFor{XTab1.Page(1), "vRFor", "00"};
+  Label vCenter{XTab1.Page(1), "vCenter", "00"};
+  Label vLFor{XTab1.Page(1), "vLFor", "00"};
+  // Of the visitor's, on the right half.
+  Label hGoalie{XTab1.Page(1), "hGoalie", "00"};
+  Label hRDef{XTab1.Page(1), "hRDef", "00"};
+  Label hLDef{XTab1.Page(1), "hLDef", "00"};
+  Label hRFor{XTab1.Page(1), "hRFor", "00"};
+  Label hCenter{XTab1.Page(1), "hCenter", "00"};
+  Label hLFor{XTab1.Page(1), "hLFor", "00"};
+  CheckBox CPUPuck{XTab1.Page(1), "CPUPuck", "CPUPuck", Start::kNeverShown};  // nothing reads it
+
+  // The state of the match machine. It outlives a game.
+  Int16 PassesLeft;  // -2 face-off due, -1 outlet pass due, 0 shot due, above 0 passes to come
+  std::string PuckCarrier;       // the record of the player with the puck
+  std::string PasserName;        // who last gave up the puck: the assist of a goal
+  std::string PuckPosition;      // the position the puck was last sent to
+  Int16 PuckTeam;                // 1 home, 2 visitor, 0 before the first face-off of a run
+  std::string Defender;          // the record of the back whom the last shot met
+  std::string DefenderPosition;  // "RD" or "LD"
+
+  // True while a franchise game waits for this screen.
+  bool FranchiseMatch = false;
+
+  // match/watched_periods.cpp
+  void ConnectPeriods();
+  void PressStart();
+  void TickPeriod1();
+  void TickPeriod2();
+  void TickPeriod3();
+  void PressClose();
+  void Abandon();
+
+ private:
+  // match/watched_periods.cpp
+  void TickEarlyPeriod(ProgressBar& period, Timer& timer, const char* end_line);
+  void AnnounceResult();
+  void ShowOwnResult();
+
+  // match/watched.cpp
+  void LoadIceLists();
+  void PlayStep();
+  void OutletStep();
+  void ShotStep();
+  void FaceOff();
+  void NotePasser();
+  void PassAlong(const char* verb);
+  void MeetDefender(const std::string& position, Int16& defense);
+  void Goal();
+  void TurnOver();
+  void Report(const std::string& line);
+
+  Program& program_;
+};
+
+}  // namespace frostmark

@@ -1,0 +1,73 @@
+#include "records/record_list.h"
+
+#include <algorithm>
+
+#include "records/runtime_error.h"
+
+namespace frostmark {
+namespace {
+
+[[noreturn]] void FailOutside(int index) {
+  throw RuntimeError("Invalid list index: " + std::to_string(index));
+}
+
+}  // namespace
+
+const std::string RecordList::kNoItem;
+
+void RecordList::SetList(int i, std::string_view item) {
+  if (i < 0 || i >= count_) FailOutside(i);
+  items_[static_cast<std::size_t>(i)].assign(item);
+  if (observer_ != nullptr) observer_->ItemChanged(i);
+}
+
+void RecordList::AddItem(std::string_view item) {
+  if (count_ == kMostItems) return;
+  if (static_cast<std::size_t>(count_) < items_.size()) {
+    items_[static_cast<std::size_t>(count_)].assign(item);
+  } else {
+    items_.emplace_back(item);
+  }
+  ++count_;
+  if (observer_ != nullptr) observer_->ItemInserted(count_ - 1);
+}
+
+void RecordList::AddItem(std::string_view item, int index) {
+  if (index < 0 || index > count_) FailOutside(index);
+  if (count_ == kMostItems) return;
+  const std::string copy(item);  // ITEM may be one of those that are about to move
+  if (static_cast<std::size_t>(count_) == items_.size()) items_.emplace_back();
+  std::rotate(items_.begin() + index, items_.begin() + count_, items_.begin() + count_ + 1);
+  items_[static_cast<std::size_t>(index)] = copy;
+  ++count_;
+  if (selected_ >= index) ++selected_;
+  if (observer_ != nullptr) observer_->ItemInserted(index);
+}
+
+void RecordList::RemoveItem(int i) {
+  if (i < 0 || i >= count_) FailOutside(i);
+  std::rotate(items_.begin() + i, items_.begin() + i + 1, items_.begin() + count_);
+  --count_;
+  if (selected_ == i) {
+    selected_ = -1;
+  } else if (selected_ > i) {
+    --selected_;
+  }
+  if (observer_ != nullptr) observer_->ItemRemoved(i);
+}
+
+void RecordList::Clear() {
+  if (count_ == 0) return;
+  count_ = 0;
+  selected_ = -1;
+  if (observer_ != nullptr) observer_->Cleared();
+}
+
+void RecordList::SetListIndex(int i) {
+  if (i < -1 || i >= count_) FailOutside(i);
+  if (i == selected_) return;
+  selected_ = i;
+  if (observer_ != nullptr) observer_->SelectionChanged();
+}
+
+}  // namespace frostmark

@@ -1,0 +1,202 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "records/numbers.h"
+#include "ui/controls.h"
+#include "ui/screen.h"
+
+namespace frostmark {
+
+class Program;
+
+// The user's desk during a franchise, and the owner of the running game: its lists and labels are
+// the state of the season.
+class Franchise : public Screen {
+ public:
+  explicit Franchise(Program& program);
+
+  TabStrip XTab1{*this, "XTab1", {"Main", "Alerts", "Standings", "Roster"}};
+
+  // Tab "Main".
+  Label Label3{XTab1.Page(0), "Label3", "Your Team:"};
+  Label TeamName{XTab1.Page(0), "TeamName"};
+  Label Label20{XTab1.Page(0), "Label20", "Your Rank:"};
+  Label MyRank{XTab1.Page(0), "MyRank", "Rank F"};
+  Label Label7{XTab1.Page(0), "Label7", "Overall:"};
+  Label Label9{XTab1.Page(0), "Label9", "00"};
+  Label Label11{XTab1.Page(0), "Label11", "Offense:"};
+  Label Label12{XTab1.Page(0), "Label12", "00"};
+  Label Label14{XTab1.Page(0), "Label14", "Defense:"};
+  Label Label15{XTab1.Page(0), "Label15", "00"};
+  Label Label2{XTab1.Page(0), "Label2", "Next week:"};
+  Label NextWeek{XTab1.Page(0), "NextWeek", "Week 1"};
+  Label Label4{XTab1.Page(0), "Label4", "Opposing Team:"};
+  Label OppTeam{XTab1.Page(0), "OppTeam"};
+  Label Label6{XTab1.Page(0), "Label6", "Overall:"};
+  Label OppOverall{XTab1.Page(0), "OppOverall", "00"};
+  Label Label8{XTab1.Page(0), "Label8", "Offense:"};
+  Label OppOffense{XTab1.Page(0), "OppOffense", "00"};
+  Label Label10{XTab1.Page(0), "Label10", "Defense:"};
+  Label OppDefense{XTab1.Page(0), "OppDefense", "00"};
+  Label Label5{XTab1.Page(0), "Label5", "Results from this week:"};
+  Label LooseOrWin{XTab1.Page(0), "LooseOrWin"};
+  Label Label19{XTab1.Page(0), "Label19"};
+  Label Label21{XTab1.Page(0), "Label21", "Season:"};
+  Label Season{XTab1.Page(0), "Season", "00"};
+  Label Label22{XTab1.Page(0), "Label22", "Championships:"};
+  Label Champion{XTab1.Page(0), "Champion", "00"};
+  Label Label18{XTab1.Page(0), "Label18", "Simulating...", Start::kHidden};
+  Timer Timer1{*this, "Timer1", 1000};  // blinks Label18
+  Button HighButton1{XTab1.Page(0), "HighButton1", "Begin"};
+  Button HighButton2{XTab1.Page(0), "HighButton2", "Close"};
+  Button HighButton3{XTab1.Page(0), "HighButton3", "Save"};
+  Button Command2{XTab1.Page(0), "Command2", "Sim"};
+  Button Command5{XTab1.Page(0), "Command5", "Cancel", Start::kHidden};
+  Button Command6{XTab1.Page(0), "Command6", "Min"};
+
+  // Tab "Alerts": the news, newest first.
+  ListBox Alerts{XTab1.Page(1), "Alerts"};
+
+  // Tab "Standings": one list of standings lines a league.
+  TabStrip XTab2{XTab1.Page(2),
+                 "XTab2",
+                 {"Rank F", "Rank E", "Rank D", "Rank C", "Rank B", "Rank A"}};
+  ListBox StatRankF{XTab2.Page(0), "StatRankF"};
+  ListBox StatRankE{XTab2.Page(1), "StatRankE"};
+  ListBox StatRankD{XTab2.Page(2), "StatRankD"};
+  ListBox StatRankC{XTab2.Page(3), "StatRankC"};
+  ListBox StatRankB{XTab2.Page(4), "StatRankB"};
+  ListBox StatRankA{XTab2.Page(5), "StatRankA"};
+
+  // Tab "Roster": item i of a shown list is the display line of item i of the hidden one.
+  Label Label17{XTab1.Page(3), "Label17", "Main:"};
+  ListBox MainRoster{XTab1.Page(3), "MainRoster"};
+  Label Label16{XTab1.Page(3), "Label16", "Training:"};
+  ListBox TrainingRoster{XTab1.Page(3), "TrainingRoster"};
+  Button Command3{XTab1.Page(3), "Command3", "v"};
+  Button Command4{XTab1.Page(3), "Command4", "^"};
+  ListBox MainList{*this, "MainList", Start::kNeverShown};
+  ListBox TrainList{*this, "TrainList", Start::kNeverShown};
+
+  // Working lists, to the right of the tabs.
+  Label Label1{*this, "Label1", "      F           E           D          C          B           A",
+               Start::kOutside};
+  // The names of a league's teams in folder order. An index is the team's schedule position.
+  ListBox RankF{*this, "RankF", Start::kNeverShown};
+  ListBox RankE{*this, "RankE", Start::kNeverShown};
+  ListBox RankD{*this, "RankD", Start::kNeverShown};
+  ListBox RankC{*this, "RankC", Start::kNeverShown};
+  ListBox RankB{*this, "RankB", Start::kNeverShown};
+  ListBox RankA{*this, "RankA", Start::kNeverShown};
+  ListBox tempList{*this, "tempList", Start::kNeverShown};  // scratch: a roster on its way
+  ListBox Team1{*this, "Team1", Start::kNeverShown};        // rosters of the game being played
+  ListBox Team2{*this, "Team2", Start::kNeverShown};
+  ListBox Line1Stats{*this, "Line1Stats", Start::kNeverShown};  // their lead lines
+  ListBox Line2Stats{*this, "Line2Stats", Start::kNeverShown};
+  ListBox LineList{*this, "LineList", Start::kNeverShown};  // the line with the puck, reversed
+  ListBox DefList{*this, "DefList", Start::kNeverShown};    // the other line, reversed
+  FileListBox File1{*this, "File1", Start::kNeverShown};
+  Button Command1{*this, "Command1", "Testing", Start::kOutside};  // a developer's shortcut
+
+  // The goals of the game just played.
+  Int16 Score1;
+  Int16 Score2;
+  // True while a Sim run is under way: the user's own games are then not watched.
+  bool SimRunning = false;
+
+  // The league lists, from the bottom of the ladder (0 is "Rank F") to its top, as in kRanks.
+  std::array<ListBox*, 6> RankLists() {
+    return {&RankF, &RankE, &RankD, &RankC, &RankB, &RankA};
+  }
+  std::array<ListBox*, 6> StatRankLists() {
+    return {&StatRankF, &StatRankE, &StatRankD, &StatRankC, &StatRankB, &StatRankA};
+  }
+
+  // shell/roster.cpp
+  void ConnectRoster();
+  void PressToTraining();
+  void PressToLeadLine();
+  void ShowLeadPlayer();
+  void ShowTrainingPlayer();
+
+  // shell/roster_lists.cpp
+  // The user's team file: the folder named by MyRank, the file named by TeamName.
+  std::string UserTeamPath() const;
+  // Adds RECORD and its display line to the lead line (Training "N") or the training line ("Y"),
+  // and to neither for any other Training.
+  void AddToRoster(const std::string& record);
+  // AddToRoster for every record of LIST, yielding after each.
+  void AddAllToRoster(const RecordList& list);
+  void ClearRoster();
+  // Writes the captions of the user's ratings from the team rated last.
+  void ShowOwnRatings();
+
+  // shell/save_and_resume.cpp
+  void ConnectSaveAndClose();
+  // Writes settings, the user's roster, standings and alerts, then says so.
+  void SaveGame();
+  void PressClose();
+
+  // season/schedule.cpp
+  // Fills the league lists and the standings from the folders and sets "Week 1".
+  void GenSchedule();
+  // Shows the user's opponent of NextWeek and his ratings.
+  void GetNextWeek();
+  // Shows the opponent and loads his roster into tempList if NAME1 or NAME2 is the user's team.
+  // RANK is a league's letter, "F" to "A".
+  void FindOpponent(const std::string& name1, const std::string& name2, const std::string& rank);
+
+  // season/league_lists.cpp
+  // Rebuilds the league lists from the folders, resets all records and finds the user's league.
+  void LoadNewTeams();
+  // Rebuilds the lists of names only and shows the next opponent. Nothing calls it.
+  void LoadNewTeamsTwo();
+
+  // season/week_loop.cpp
+  void ConnectWeekLoop();
+  // Plays the week of NextWeek, or ends the season at "Off Season".
+  void PressBegin();
+  // Nothing: the week is played by PressBegin.
+  void PlayWeek() {}
+
+  // season/sim_run.cpp
+  void ConnectSimRun();
+  void PressSim();
+
+  // match/results.cpp
+  // Plays the game of NAME1 (home) against NAME2 in the league of the letter RANK ("F" to "A") and
+  // takes all its consequences. A game of the user's own is watched unless SimRunning, and this
+  // returns when it is over.
+  void PlayGame(const std::string& name1, const std::string& name2, const std::string& rank);
+  // Counts Score1 and Score2 into the lines of LIST that contain the names.
+  void SetStandings(RecordList& list, const std::string& name1, const std::string& name2);
+  // Thins out Alerts behind its 26th line.
+  void TrimAlerts();
+
+  // development/training.cpp
+  // What a game does to the players of LIST, which is then written to PATH, the team's file.
+  void TrainThem(RecordList& list, const std::string& path);
+
+  // development/promotion.cpp
+  // Ends the season: moves the first and the last of the leagues, fills FResults and shows it.
+  void theOffSeason();
+
+ private:
+  bool LineUpAccepted();
+  void SetButtonsEnabled(bool enabled);
+  void PlayWeekOfTable();
+  void RebuildRoster();
+  void TickSimulating();
+  void SaveRoster();
+  void WatchGame(const std::string& name1, const std::string& name2);
+  void SimulateUnwatched();
+  void ShowOwnResult(const std::string& name1, const std::string& name2);
+  void AddAlert(const std::string& name1, const std::string& name2);
+  void Develop(RecordList& list, int i, const char* skill);
+
+  Program& program_;
+};
+
+}  // namespace frostmark

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <string>
+
+#include "draft/f_draft.h"
+#include "draft/f_results.h"
+#include "draft/f_select_draft.h"
+#include "match/f_start_game.h"
+#include "match/game.h"
+#include "match/game_simulation.h"
+#include "records/hockey_naming.h"
+#include "records/ordvik.h"
+#include "shell/f_player.h"
+#include "shell/franchise.h"
+#include "shell/startup.h"
+#include "ui/desktop.h"
+#include "world/team_creator.h"
+
+namespace frostmark {
+
+// One running game: the modules and the screens. There is nothing global, so that a test can hold
+// ten of them.
+class Program {
+ public:
+  // DESKTOP and DICE outlive the program. APP_PATH is the program's folder.
+  Program(Desktop& desktop, Dice& dice, std::string app_path);
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+
+  // Shows the start screen. Nothing else happens until the user acts, and no file is looked at.
+  void Start();
+
+  Desktop& desktop;
+  ScreenList screens;
+
+  Ordvik ordvik;
+  HockeyNaming hockey_naming;
+  GameSimulation game_simulation;
+
+  Startup startup;
+  TeamCreator team_creator;
+  FStartGame f_start_game;
+  Game game;
+  Franchise franchise;
+  FPlayer f_player;
+  FResults f_results;
+  FDraft f_draft;
+  FSelectDraft f_select_draft;
+};
+
+}  // namespace frostmark

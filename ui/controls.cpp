@@ -1,0 +1,91 @@
+#include "ui/controls.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+
+namespace frostmark {
+namespace {
+
+// How many bytes the first COUNT characters of UTF-8 TEXT take.
+std::size_t BytesOfCharacters(std::string_view text, int count) {
+  std::size_t at = 0;
+  while (at < text.size()) {
+    const bool starts_character = (static_cast<unsigned char>(text[at]) & 0xC0U) != 0x80U;
+    if (starts_character && count-- == 0) break;
+    ++at;
+  }
+  return at;
+}
+
+unsigned char Lower(char c) {
+  return static_cast<unsigned char>(c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c);
+}
+
+bool BeforeWithoutCase(const std::string& a, const std::string& b) {
+  const auto difference =
+      std::mismatch(a.begin(), a.end(), b.begin(), b.end(),
+                    [](char x, char y) { return Lower(x) == Lower(y); });
+  if (difference.first == a.end() && difference.second == b.end()) return a < b;
+  if (difference.first == a.end() || difference.second == b.end()) return a.size() < b.size();
+  return Lower(*difference.first) < Lower(*difference.second);
+}
+
+std::vector<std::string> FileNames(const std::string& folder) {
+  namespace fs = std::filesystem;
+  std::vector<std::string> names;
+  std::error_code error;
+  fs::directory_iterator entry(folder, error);
+  for (const fs::directory_iterator end; !error && entry != end; entry.increment(error)) {
+    std::error_code ignored;
+    if (entry->is_regular_file(ignored)) names.push_back(entry->path().filename().string());
+  }
+  std::sort(names.begin(), names.end(), BeforeWithoutCase);
+  return names;
+}
+
+}  // namespace
+
+CaptionedControl::CaptionedControl(Place place, ControlKind kind, std::string name,
+                                   std::string caption, Start start)
+    : Control(place, kind, std::move(name), start), caption_(std::move(caption)) {}
+
+void CaptionedControl::SetCaption(std::string_view caption) {
+  if (caption_ == caption) return;
+  caption_.assign(caption);
+  Changed();
+}
+
+void TextBox::Type(std::string_view text) {
+  SetText(max_length_ == 0 ? text : text.substr(0, BytesOfCharacters(text, max_length_)));
+}
+
+void ListBox::Select(int i) {
+  SetListIndex(i);
+  Raise(OnClick);
+}
+
+void ListBox::DoubleClick(int i) {
+  Select(i);
+  Raise(OnDoubleClick);
+}
+
+void FileListBox::SetPath(std::string path) {
+  path_ = std::move(path);
+  Clear();
+  for (const std::string& name : FileNames(path_)) AddItem(name);
+}
+
+void TabStrip::SetFront(int i) {
+  if (i == front_) return;
+  front_ = i;
+  Changed();
+}
+
+void ProgressBar::SetValue(int value) {
+  if (value == value_) return;
+  value_ = value;
+  Changed();
+}
+
+}  // namespace frostmark
