@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QStyledItemDelegate>
+
+namespace frostmark {
+
+// Draws a player's line as a badge with his position, his name, his overall rating as a bar with
+// its number, and his age. The list's text stays as it is: see ParsePlayerLine for the forms.
+class PlayerDelegate : public QStyledItemDelegate {
+  Q_OBJECT
+
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override;
+  // The width is what the row needs with its shortest bar.
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+};
+
+}  // namespace frostmark

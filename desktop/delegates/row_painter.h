@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QColor>
+#include <QRectF>
+#include <QString>
+#include <QStyleOptionViewItem>
+
+class QPainter;
+
+namespace frostmark {
+
+// What all drawn rows of a list have in common: their measures, their ground with selection, hover
+// and keyboard focus, and their texts.
+namespace row {
+
+// The height of a row and the space at its two ends, from the font alone.
+int Height(const QStyleOptionViewItem& option);
+double Margin(const QStyleOptionViewItem& option);
+
+// Draws the ground of a row as the style sheet wants it, with the keyboard's frame when the row has
+// the focus, and leaves PAINTER in the row's font and dimmed when its list is disabled.
+void PaintGround(QPainter& painter, const QStyleOptionViewItem& option);
+
+// The colour of plain text on the row, and of text that stands back.
+QColor TextColor(const QStyleOptionViewItem& option);
+QColor QuietColor(const QStyleOptionViewItem& option);
+
+// Draws TEXT into RECT on one line, with dots at its end where it does not fit.
+void PaintText(QPainter& painter, const QRectF& rect, const QString& text, const QColor& color,
+               Qt::Alignment alignment = Qt::AlignLeft);
+
+// Draws the whole row as plain text: a line that is in no known form.
+void PaintPlain(QPainter& painter, const QStyleOptionViewItem& option, const QString& text);
+
+}  // namespace row
+}  // namespace frostmark

@@ -1,0 +1,43 @@
+#include "desktop/widgets/rating_painter.h"
+
+#include <QLinearGradient>
+#include <QPainter>
+#include <algorithm>
+
+namespace frostmark {
+
+QColor RatingColor(int rating) {
+  if (rating >= 90) return {0xFF, 0xC8, 0x57};
+  if (rating >= 80) return {0x6F, 0xE3, 0xF5};
+  if (rating >= 70) return {0x4D, 0x9D, 0xE8};
+  return {0x7C, 0x8F, 0xAE};
+}
+
+double RatingShare(int rating) {
+  return std::clamp((rating - kBarStart) / double{kBarEnd - kBarStart}, 0.0, 1.0);
+}
+
+void PaintRatingBar(QPainter& painter, const QRectF& rect, int rating, bool from_right) {
+  const double radius = rect.height() / 2;
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(255, 255, 255, 28));
+  painter.drawRoundedRect(rect, radius, radius);
+
+  const double share = RatingShare(rating);
+  if (share > 0) {
+    QRectF filled = rect;
+    filled.setWidth(std::max(rect.height(), rect.width() * share));
+    if (from_right) filled.moveRight(rect.right());
+    const QColor color = RatingColor(rating);
+    QLinearGradient shine(filled.topLeft(), filled.topRight());
+    shine.setColorAt(from_right ? 1 : 0, color.darker(150));
+    shine.setColorAt(from_right ? 0 : 1, color);
+    painter.setBrush(shine);
+    painter.drawRoundedRect(filled, radius, radius);
+  }
+  painter.restore();
+}
+
+}  // namespace frostmark

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QColor>
+#include <QRectF>
+
+class QPainter;
+
+namespace frostmark {
+
+// The one look of a rating wherever a number is drawn as a bar.
+//
+// Players move between the sixties and 99, so a bar that started at 0 would show them all alike: it
+// starts at kBarStart, and a lower rating is an empty bar.
+inline constexpr int kBarStart = 40;
+inline constexpr int kBarEnd = 99;
+
+// The colour of a rating: four steps from dull to outstanding.
+QColor RatingColor(int rating);
+
+// How much of its bar RATING fills, 0 to 1.
+double RatingShare(int rating);
+
+// Draws the bar of RATING into RECT, filled from its left end or, where two teams face each other,
+// from its right end.
+void PaintRatingBar(QPainter& painter, const QRectF& rect, int rating, bool from_right = false);
+
+}  // namespace frostmark
