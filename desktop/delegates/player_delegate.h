@@ -1,21 +1,19 @@
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "desktop/delegates/row_delegate.h"
 
 namespace frostmark {
 
-// Draws a player's line as a badge with his position, his name, his overall rating as a bar with
-// its number, and his age. The list's text stays as it is: see ParsePlayerLine for the forms.
-class PlayerDelegate : public QStyledItemDelegate {
+// Draws a player: position badge, name, bar of the Overall with its figure, age.
+class PlayerDelegate : public RowDelegate {
   Q_OBJECT
 
  public:
-  using QStyledItemDelegate::QStyledItemDelegate;
+  using RowDelegate::RowDelegate;
 
-  void paint(QPainter* painter, const QStyleOptionViewItem& option,
-             const QModelIndex& index) const override;
-  // The width is what the row needs with its shortest bar.
-  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+ protected:
+  void PaintRow(QPainter& painter, const QRect& bounds, const QString& text,
+                const QStyleOptionViewItem& option) const override;
 };
 
 }  // namespace frostmark

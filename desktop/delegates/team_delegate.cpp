@@ -1,0 +1,101 @@
+#include "desktop/delegates/team_delegate.h"
+
+#include <QPainter>
+#include <array>
+#include <cmath>
+#include <utility>
+
+#include "desktop/delegates/row_painter.h"
+#include "desktop/delegates/team_line.h"
+
+namespace frostmark {
+
+namespace {
+
+// The columns of a row, from the font alone.
+struct Columns {
+  explicit Columns(const QStyleOptionViewItem& option)
+      : gap(row::Margin(option)),
+        mark(option.fontMetrics.height() * 0.75),
+        place(QFontMetricsF(option.font).horizontalAdvance("0")),
+        count(QFontMetricsF(option.font).horizontalAdvance("000")) {}
+
+  double gap;
+  double mark;
+  double place;
+  double count;
+};
+
+void PaintOwn(QPainter& painter, const QStyleOptionViewItem& option) {
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(0x4D, 0x9D, 0xE8, 60));
+  const QRectF rect = QRectF(option.rect).adjusted(1, 1, -1, -1);
+  painter.drawRoundedRect(rect, 5, 5);
+  painter.setBrush(QColor(0x6F, 0xE3, 0xF5));
+  painter.drawRoundedRect(QRectF(rect.left(), rect.top() + 3, 3.5, rect.height() - 6), 1.75, 1.75);
+}
+
+void PaintTeam(QPainter& painter, const QStyleOptionViewItem& option, const TeamLine& line, int row,
+               League league) {
+  const Columns columns(option);
+  QRectF rest = QRectF(option.rect).adjusted(columns.gap, 0, -columns.gap, 0);
+
+  QRectF place = rest;
+  place.setWidth(columns.place);
+  row::PaintText(painter, place, QString::number(row + 1), row::QuietColor(option));
+  QRectF mark(0, 0, columns.mark, columns.mark);
+  mark.moveCenter(QPointF(place.right() + columns.gap + columns.mark / 2, rest.center().y()));
+  PaintFate(painter, mark, FateOf(league, row));
+  rest.setLeft(mark.right() + columns.gap);
+
+  const std::array counts = {line.ties, line.losses, line.wins};
+  for (std::size_t i = 0; i < counts.size(); ++i) {
+    QRectF count = rest;
+    count.setLeft(rest.right() - columns.count);
+    const bool wins = i + 1 == counts.size();
+    row::PaintText(painter, count, QString::number(counts[i]),
+                   wins ? row::TextColor(option) : row::QuietColor(option), Qt::AlignRight);
+    rest.setRight(count.left());
+  }
+  rest.setRight(rest.right() - columns.gap);
+  row::PaintText(painter, rest, line.team, row::TextColor(option));
+}
+
+}  // namespace
+
+TeamDelegate::TeamDelegate(League league, std::function<QString()> own_team, QObject* parent)
+    : QStyledItemDelegate(parent), league_(league), own_team_(std::move(own_team)) {}
+
+void TeamDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                         const QModelIndex& index) const {
+  QStyleOptionViewItem prepared = option;
+  initStyleOption(&prepared, index);
+  painter->save();
+  row::PaintGround(*painter, prepared);
+  if (const auto line = ParseTeamLine(prepared.text)) {
+    if (line->team == own_team_()) {
+      PaintOwn(*painter, prepared);
+      prepared.font.setBold(true);
+      painter->setFont(prepared.font);
+    }
+    PaintTeam(*painter, prepared, *line, index.row(), league_);
+  } else {
+    row::PaintPlain(*painter, prepared, prepared.text);
+  }
+  painter->restore();
+}
+
+QSize TeamDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+  QStyleOptionViewItem prepared = option;
+  initStyleOption(&prepared, index);
+  const Columns columns(prepared);
+  const auto line = ParseTeamLine(prepared.text);
+  prepared.font.setBold(true);
+  const double name =
+      QFontMetricsF(prepared.font).horizontalAdvance(line ? line->team : prepared.text);
+  const double others =
+      line ? columns.place + columns.mark + 3 * columns.count + 3 * columns.gap : 0;
+  return {static_cast<int>(std::ceil(name + others + 2 * columns.gap)), row::Height(prepared)};
+}
+
+}  // namespace frostmark
