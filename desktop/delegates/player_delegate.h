@@ -1,19 +1,21 @@
 #pragma once
 
-#include "desktop/delegates/row_delegate.h"
+#include <QStyledItemDelegate>
 
 namespace frostmark {
 
-// Draws a player: position badge, name, bar of the Overall with its figure, age.
-class PlayerDelegate : public RowDelegate {
+// Draws a player's line as a badge with his position, his name, his overall rating as a bar with
+// its number, and his age. The list's text stays as it is: see ParsePlayerLine for the forms.
+class PlayerDelegate : public QStyledItemDelegate {
   Q_OBJECT
 
  public:
-  using RowDelegate::RowDelegate;
+  using QStyledItemDelegate::QStyledItemDelegate;
 
- protected:
-  void PaintRow(QPainter& painter, const QRect& bounds, const QString& text,
-                const QStyleOptionViewItem& option) const override;
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override;
+  // The width is what the row needs with its shortest bar.
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 };
 
 }  // namespace frostmark

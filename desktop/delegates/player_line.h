@@ -5,20 +5,18 @@
 
 namespace frostmark {
 
-// A player as a list shows him. A text without a figure has -1 there, one without a position "".
+// What a player's line in a list says, taken apart for drawing. The text itself stays what the list
+// holds and what a screen reader reads.
 struct PlayerLine {
-  QString position;
+  QString position;  // "GO" to "LF"; empty in the lines of the draft pool
   QString name;
-  int overall = -1;
-  int age = -1;
+  int overall = 0;
+  int age = 0;
 };
 
-// Reads every text in which the game's lists show a player, and nothing else:
-//   "CF - James Smith 85/23"     the create-a-team panel
-//   "CF - James Smith (85/23)"   rosters
-//   "CF - James Smith (85)"      the lines of a watched game
-//   "James Smith 85/23"          the pool of the draft
-//   "James Smith,CF,85,82,91,70,83,23,N"   a whole record
-std::optional<PlayerLine> ReadPlayerLine(const QString& text);
+// Takes any of the three forms apart: "CF - James Smith (85/23)" of the rosters, "CF - James Smith
+// 85/23" of the create-a-team panel and "James Smith 85/23" of the pool. Nothing when TEXT has none
+// of them, as after a garbled file; such a line is drawn as it stands.
+std::optional<PlayerLine> ParsePlayerLine(const QString& text);
 
 }  // namespace frostmark
