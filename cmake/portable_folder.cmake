@@ -2,10 +2,28 @@
 # folders and Settings beside them. git holds no empty folder, and a league folder must hold nothing
 # but teams, so they are made here. A world that is already there stays as it is.
 install(TARGETS frostmark-console RUNTIME DESTINATION .)
-if(FROSTMARK_DESKTOP)
-  install(TARGETS frostmark RUNTIME DESTINATION .)
-endif()
 foreach(rank F E D C B A)
   install(DIRECTORY DESTINATION "Teams/Rank ${rank}")
 endforeach()
 install(DIRECTORY DESTINATION Settings)
+install(FILES LICENSE DESTINATION .)
+
+# The folder knows no place of its own, so it goes into the menu only when its user asks for it.
+if(FROSTMARK_DESKTOP)
+  install(TARGETS frostmark RUNTIME DESTINATION .)
+  install(PROGRAMS packaging/add-to-menu DESTINATION .)
+  set(id packaging/io.frostmark.frostmark)
+  set(icon packaging/icons/io.frostmark.frostmark)
+  install(FILES ${id}.desktop ${id}.metainfo.xml
+    ${icon}.svg ${icon}-48.png ${icon}-128.png ${icon}-256.png
+    DESTINATION menu)
+endif()
+
+# `cpack` in the build folder makes an archive of the portable folder.
+set(CPACK_GENERATOR TGZ)
+set(CPACK_PACKAGE_NAME frostmark)
+set(CPACK_PACKAGE_VENDOR "The Frostmark developers")
+set(CPACK_PACKAGE_FILE_NAME
+  "frostmark-${PROJECT_VERSION}-${CMAKE_SYSTEM_NAME}-${CMAKE_SYSTEM_PROCESSOR}")
+set(CPACK_STRIP_FILES ON)
+include(CPack)
