@@ -62,6 +62,9 @@ class Screen {
   Border border() const { return border_; }
   OnClose on_close() const { return on_close_; }
 
+  // The screens of its program, this one among them.
+  const ScreenList& Screens() const { return screens_; }
+
   bool Visible() const { return visible_; }
   // Shows the screen, in front of the others, without waiting for it.
   void Show();

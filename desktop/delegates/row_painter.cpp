@@ -5,6 +5,8 @@
 #include <QStyle>
 #include <QWidget>
 
+#include "desktop/palette.h"
+
 namespace frostmark::row {
 
 namespace {
@@ -27,7 +29,7 @@ void PaintGround(QPainter& painter, const QStyleOptionViewItem& option) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setFont(option.font);
   if (option.state & QStyle::State_HasFocus) {
-    painter.setPen(QPen(option.palette.color(QPalette::Highlight).lighter(150), 1.5));
+    painter.setPen(QPen(QColor(palette::kBlueBright), 1.5));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(QRectF(option.rect).adjusted(1, 1, -1, -1), 5, 5);
   }
@@ -52,6 +54,38 @@ void PaintText(QPainter& painter, const QRectF& rect, const QString& text, const
       QFontMetricsF(painter.font()).elidedText(text, Qt::ElideRight, rect.width());
   painter.drawText(rect, static_cast<int>(alignment | Qt::AlignVCenter) | Qt::TextSingleLine,
                    fitting);
+}
+
+void PaintRuns(QPainter& painter, const QRectF& rect, const std::vector<Run>& runs,
+               const QColor& color) {
+  const QFont font = painter.font();
+  QRectF rest = rect;
+  for (const Run& run : runs) {
+    QFont own = font;
+    own.setBold(run.bold || font.bold());
+    painter.setFont(own);
+    PaintText(painter, rest, run.text, color);
+    rest.setLeft(rest.left() + QFontMetricsF(own).horizontalAdvance(run.text));
+    if (rest.width() <= 0) break;
+  }
+  painter.setFont(font);
+}
+
+void PaintOwn(QPainter& painter, const QStyleOptionViewItem& option) {
+  const QRectF rect = QRectF(option.rect).adjusted(1, 1, -1, -1);
+  painter.setPen(Qt::NoPen);
+  QColor tint(palette::kGold);
+  tint.setAlphaF(0.16F);
+  painter.setBrush(tint);
+  painter.drawRoundedRect(rect, 5, 5);
+  painter.setBrush(QColor(palette::kGold));
+  painter.drawRoundedRect(QRectF(rect.left(), rect.top() + 3, 3.5, rect.height() - 6), 1.75, 1.75);
+}
+
+double BoldWidth(const QStyleOptionViewItem& option, const QString& text) {
+  QFont font = option.font;
+  font.setBold(true);
+  return QFontMetricsF(font).horizontalAdvance(text) + 2 * Margin(option);
 }
 
 void PaintPlain(QPainter& painter, const QStyleOptionViewItem& option, const QString& text) {

@@ -4,6 +4,7 @@
 #include <QRectF>
 #include <QString>
 #include <QStyleOptionViewItem>
+#include <vector>
 
 class QPainter;
 
@@ -28,6 +29,22 @@ QColor QuietColor(const QStyleOptionViewItem& option);
 // Draws TEXT into RECT on one line, with dots at its end where it does not fit.
 void PaintText(QPainter& painter, const QRectF& rect, const QString& text, const QColor& color,
                Qt::Alignment alignment = Qt::AlignLeft);
+
+// A piece of a line that is drawn in one manner.
+struct Run {
+  QString text;
+  bool bold = false;
+};
+
+// Draws RUNS one behind the other into RECT, with dots where they do not fit.
+void PaintRuns(QPainter& painter, const QRectF& rect, const std::vector<Run>& runs,
+               const QColor& color);
+
+// Marks the row as the user's own: a tint and a bright edge at its left end.
+void PaintOwn(QPainter& painter, const QStyleOptionViewItem& option);
+
+// The width of TEXT when it is bold, with the margins of the row.
+double BoldWidth(const QStyleOptionViewItem& option, const QString& text);
 
 // Draws the whole row as plain text: a line that is in no known form.
 void PaintPlain(QPainter& painter, const QStyleOptionViewItem& option, const QString& text);

@@ -26,15 +26,6 @@ struct Columns {
   double count;
 };
 
-void PaintOwn(QPainter& painter, const QStyleOptionViewItem& option) {
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(QColor(0x4D, 0x9D, 0xE8, 60));
-  const QRectF rect = QRectF(option.rect).adjusted(1, 1, -1, -1);
-  painter.drawRoundedRect(rect, 5, 5);
-  painter.setBrush(QColor(0x6F, 0xE3, 0xF5));
-  painter.drawRoundedRect(QRectF(rect.left(), rect.top() + 3, 3.5, rect.height() - 6), 1.75, 1.75);
-}
-
 void PaintTeam(QPainter& painter, const QStyleOptionViewItem& option, const TeamLine& line, int row,
                League league) {
   const Columns columns(option);
@@ -74,7 +65,7 @@ void TeamDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   row::PaintGround(*painter, prepared);
   if (const auto line = ParseTeamLine(prepared.text)) {
     if (line->team == own_team_()) {
-      PaintOwn(*painter, prepared);
+      row::PaintOwn(*painter, prepared);
       prepared.font.setBold(true);
       painter->setFont(prepared.font);
     }
@@ -90,12 +81,10 @@ QSize TeamDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelInd
   initStyleOption(&prepared, index);
   const Columns columns(prepared);
   const auto line = ParseTeamLine(prepared.text);
-  prepared.font.setBold(true);
-  const double name =
-      QFontMetricsF(prepared.font).horizontalAdvance(line ? line->team : prepared.text);
+  const double name = row::BoldWidth(prepared, line ? line->team : prepared.text);
   const double others =
       line ? columns.place + columns.mark + 3 * columns.count + 3 * columns.gap : 0;
-  return {static_cast<int>(std::ceil(name + others + 2 * columns.gap)), row::Height(prepared)};
+  return {static_cast<int>(std::ceil(name + others)), row::Height(prepared)};
 }
 
 }  // namespace frostmark

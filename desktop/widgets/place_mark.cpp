@@ -5,6 +5,8 @@
 #include <cmath>
 #include <numbers>
 
+#include "desktop/palette.h"
+
 namespace frostmark {
 
 namespace {
@@ -31,8 +33,7 @@ QPainterPath Star(const QRectF& rect) {
   for (int i = 0; i < 10; ++i) {
     const double angle = -std::numbers::pi / 2 + i * std::numbers::pi / 5;
     const double reach = i % 2 == 0 ? radius : radius * 0.45;
-    const QPointF point =
-        rect.center() + QPointF(std::cos(angle) * reach, std::sin(angle) * reach);
+    const QPointF point = rect.center() + QPointF(std::cos(angle) * reach, std::sin(angle) * reach);
     if (i == 0) {
       path.moveTo(point);
     } else {
@@ -54,15 +55,15 @@ Fate FateOf(League league, int row) {
 QColor FateColor(Fate fate) {
   switch (fate) {
     case Fate::kChampion:
-      return {0xFF, 0xC8, 0x57};
+      return palette::kGold;
     case Fate::kGoesUp:
-      return {0x4A, 0xD6, 0x8C};
+      return palette::kGreen;
     case Fate::kGoesDown:
-      return {0xF0, 0x5A, 0x6A};
+      return palette::kRedBright;
     case Fate::kStays:
       break;
   }
-  return {0x7C, 0x8F, 0xAE};
+  return palette::kFaint;
 }
 
 void PaintFate(QPainter& painter, const QRectF& rect, Fate fate) {

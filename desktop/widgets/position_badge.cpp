@@ -3,13 +3,15 @@
 #include <QFont>
 #include <QPainter>
 
+#include "desktop/palette.h"
+
 namespace frostmark {
 
 QColor PositionColor(const QString& position) {
-  if (position == "GO") return {0xE8, 0xB0, 0x3A};
-  if (position == "RD" || position == "LD") return {0x2F, 0x7F, 0xD8};
-  if (position == "RF" || position == "CF" || position == "LF") return {0xD6, 0x39, 0x4C};
-  return {0x7C, 0x8F, 0xAE};
+  if (position == "GO") return palette::kIce;
+  if (position == "RD" || position == "LD") return palette::kBlue;
+  if (position == "RF" || position == "CF" || position == "LF") return palette::kRed;
+  return palette::kFaint;
 }
 
 QSizeF PositionBadgeSize(const QFontMetricsF& metrics) {
@@ -34,7 +36,7 @@ void PaintPositionBadge(QPainter& painter, const QRectF& rect, const QString& po
     font.setPointSizeF(font.pointSizeF() * 0.85);
   }
   painter.setFont(font);
-  painter.setPen(position == "GO" ? QColor(0x1A, 0x14, 0x00) : QColor(Qt::white));
+  painter.setPen(QColor(position == "GO" ? palette::kDeep : palette::kIce));
   painter.drawText(rect, Qt::AlignCenter, position);
   painter.restore();
 }

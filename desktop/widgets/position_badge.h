@@ -9,8 +9,8 @@ class QPainter;
 
 namespace frostmark {
 
-// The colour of a position: gold for the goalie, blue for the backs, red for the forwards, as the
-// lines of the rink. Grey for anything that is no position.
+// The colour of a position: ice for the goalie, blue for the backs, red for the forwards, as the
+// rink and its lines. Grey for anything that is no position.
 QColor PositionColor(const QString& position);
 
 // The room that a badge needs in a font; the same for all positions, so that names stand in line.

@@ -4,13 +4,15 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "desktop/palette.h"
+
 namespace frostmark {
 
 QColor RatingColor(int rating) {
-  if (rating >= 90) return {0xFF, 0xC8, 0x57};
-  if (rating >= 80) return {0x6F, 0xE3, 0xF5};
-  if (rating >= 70) return {0x4D, 0x9D, 0xE8};
-  return {0x7C, 0x8F, 0xAE};
+  if (rating >= 90) return palette::kIce;
+  if (rating >= 80) return palette::kBlueBright;
+  if (rating >= 70) return palette::kBlue;
+  return palette::kFaint;
 }
 
 double RatingShare(int rating) {

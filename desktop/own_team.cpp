@@ -1,0 +1,14 @@
+#include "desktop/own_team.h"
+
+#include "shell/franchise.h"
+
+namespace frostmark {
+
+std::function<QString()> OwnTeam(const Screen& screen) {
+  const auto* franchise = dynamic_cast<const Franchise*>(screen.Screens().Find("Franchise"));
+  return [franchise] {
+    return franchise != nullptr ? QString::fromStdString(franchise->TeamName.Caption()) : QString();
+  };
+}
+
+}  // namespace frostmark
