@@ -29,8 +29,9 @@ class FDraft : public Screen {
   ListPair List1{*this, "List1"};  // "GO"
   ListPair List2{*this, "List2"};  // "LD"
   ListPair List3{*this, "List3"};  // "RD"
-  Label Label6{*this, "Label6",
-               "Left Forwards                    Center Forwards                    Right Forwards"};
+  Label Label6{
+      *this, "Label6",
+      "Left Forwards                    Center Forwards                    Right Forwards"};
   ListPair List4{*this, "List4"};  // "LF"
   ListPair List5{*this, "List5"};  // "CF"
   ListPair List6{*this, "List6"};  // "RF"
@@ -51,8 +52,15 @@ class FDraft : public Screen {
   // The pair of POSITION, or nullptr when it is none of the six.
   ListPair* PoolOf(std::string_view position);
 
+  // draft/pool.cpp
+  // Fills LIST with twenty new players of POSITION, as yet without their pool lines.
+  void RollProspects(ListPair& list, const char* position);
+  // Adds the pool line of every record in element 1 of LIST to element 0.
+  void ShowPoolLines(ListPair& list);
+  // Opens or closes all six lists of the pool.
+  void SetPoolEnabled(bool enabled);
+
   // draft/cpu_draft.cpp
-  void ConnectDraft();
   // Gives all 36 teams their turn, from "Rank A" down. Stops at the user's until he has picked.
   void RunDraft();
 
@@ -62,8 +70,6 @@ class FDraft : public Screen {
   void AddDraftee(std::string& record);
   void PickFromPool(ListPair& list);
   void PressNewSeason();
-  // Opens or closes all six lists of the pool.
-  void SetPoolEnabled(bool enabled);
 
   // The lines of Events. RECORD is the player's.
   void AddRetirement(const std::string& record);

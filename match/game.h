@@ -1,6 +1,8 @@
 #pragma once
 
+#include <initializer_list>
 #include <string>
+#include <string_view>
 
 #include "records/numbers.h"
 #include "ui/controls.h"
@@ -37,8 +39,8 @@ class Game : public Screen {
   Label Label3{XTab1.Page(1), "Label3", "0"};  // the home team's goals: there is no other score
   Label Label2{XTab1.Page(1), "Label2", "Visitor:"};
   Label GVisitor{XTab1.Page(1), "GVisitor"};
-  Label Label4{XTab1.Page(1), "Label4", "0"};  // the visitor's goals
-  ListBox Events{XTab1.Page(1), "Events"};     // the play-by-play, newest on top
+  Label Label4{XTab1.Page(1), "Label4", "0"};          // the visitor's goals
+  ListBox Events{XTab1.Page(1), "Events"};             // the play-by-play, newest on top
   ProgressBar Period1{XTab1.Page(1), "Period1", 200};  // steps played in the period
   ProgressBar Period2{XTab1.Page(1), "Period2", 200};
   ProgressBar Period3{XTab1.Page(1), "Period3", 200};
@@ -47,7 +49,7 @@ class Game : public Screen {
   Timer Timer3{*this, "Timer3", 100};
   Button HighButton1{XTab1.Page(1), "HighButton1", "Start"};
   Button HighButton2{XTab1.Page(1), "HighButton2", "Close", Start::kHidden};
-  Label Label5{XTab1.Page(1), "Label5", "x"};  // a close mark, abandons the game
+  Label Label5{XTab1.Page(1), "Label5", "x"};   // a close mark, abandons the game
   Picture Picture1{XTab1.Page(1), "Picture1"};  // the rink
   // The Overall of the home team's lead players, on the left half of the rink.
   Label vGoalie{XTab1.Page(1), "vGoalie", "00"};
@@ -98,12 +100,14 @@ class Game : public Screen {
   void OutletStep();
   void ShotStep();
   void FaceOff();
+  int FindCentre(const RecordList& line);
   void NotePasser();
-  void PassAlong(const char* verb);
-  void MeetDefender(const std::string& position, Int16& defense);
+  void PassAlong(const char* passes);
+  void MeetDefender(std::string_view position, Int16& defense);
   void Goal();
-  void TurnOver();
-  void Report(const std::string& line);
+  void TurnOver(const char* how);
+  // Puts the joined TEXTS on top of the play-by-play.
+  void Report(std::initializer_list<std::string_view> texts);
 
   Program& program_;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "records/numbers.h"
 #include "records/record_list.h"
@@ -38,15 +39,13 @@ class GameSimulation {
   void OutletStep();
   void ShotStep();
   void FaceOff();
-  void FindCentre(const RecordList& line, std::string& centre);
+  int FindPlayer(const RecordList& line, std::string_view position);
   void NotePasser();
   void PassAlong();
-  void MeetDefender(const std::string& position, Int16& defense);
+  void MeetDefender(std::string_view position, Int16& defense);
   void TurnOver();
 
   Program& program_;
-  std::string centre1_;  // members, so that their memory serves every face-off
-  std::string centre2_;
 };
 
 }  // namespace frostmark

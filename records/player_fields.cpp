@@ -31,7 +31,9 @@ std::string Join(const Parts& parts) {
   return record;
 }
 
-Int16 Number(Parts& parts, Field field) { return RoundHalfToEven(LenientNumber(Part(parts, field))); }
+Int16 Number(Parts& parts, Field field) {
+  return RoundHalfToEven(LenientNumber(Part(parts, field)));
+}
 
 // What VALUE adds to the field. Agility is left out on purpose: it is a gift of birth that no
 // training moves, so a call for it comes to nothing.

@@ -10,7 +10,17 @@ namespace frostmark {
 
 // A player is one text of nine fields joined by ",":
 //   James Smith,CF,85,82,91,70,83,23,N
-enum class Field { kName, kPosition, kOverall, kPassing, kShooting, kDefense, kAgility, kAge, kTraining };
+enum class Field {
+  kName,
+  kPosition,
+  kOverall,
+  kPassing,
+  kShooting,
+  kDefense,
+  kAgility,
+  kAge,
+  kTraining
+};
 inline constexpr int kFieldCount = 9;
 
 // The field called NAME ("Name", "Position", ... "Training", case counts), or -1.

@@ -112,8 +112,7 @@ std::string Ordvik::ReadSetting(std::string_view key) {
   const auto place = FindKey(lines, FindSection(lines), key);
   if (!place) return {};
   const std::string_view line = lines[*place];
-  return std::string(
-      Unquoted(Trimmed(line.substr(line.find('=') + 1))).substr(0, kLongestValue));
+  return std::string(Unquoted(Trimmed(line.substr(line.find('=') + 1))).substr(0, kLongestValue));
 }
 
 void Ordvik::WriteSetting(std::string_view key, std::string_view value) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <string>
 
 #include "records/numbers.h"
@@ -60,9 +61,8 @@ class Franchise : public Screen {
   ListBox Alerts{XTab1.Page(1), "Alerts"};
 
   // Tab "Standings": one list of standings lines a league.
-  TabStrip XTab2{XTab1.Page(2),
-                 "XTab2",
-                 {"Rank F", "Rank E", "Rank D", "Rank C", "Rank B", "Rank A"}};
+  TabStrip XTab2{
+      XTab1.Page(2), "XTab2", {"Rank F", "Rank E", "Rank D", "Rank C", "Rank B", "Rank A"}};
   ListBox StatRankF{XTab2.Page(0), "StatRankF"};
   ListBox StatRankE{XTab2.Page(1), "StatRankE"};
   ListBox StatRankD{XTab2.Page(2), "StatRankD"};
@@ -107,9 +107,7 @@ class Franchise : public Screen {
   bool SimRunning = false;
 
   // The league lists, from the bottom of the ladder (0 is "Rank F") to its top, as in kRanks.
-  std::array<ListBox*, 6> RankLists() {
-    return {&RankF, &RankE, &RankD, &RankC, &RankB, &RankA};
-  }
+  std::array<ListBox*, 6> RankLists() { return {&RankF, &RankE, &RankD, &RankC, &RankB, &RankA}; }
   std::array<ListBox*, 6> StatRankLists() {
     return {&StatRankF, &StatRankE, &StatRankD, &StatRankC, &StatRankB, &StatRankA};
   }
@@ -186,15 +184,20 @@ class Franchise : public Screen {
  private:
   bool LineUpAccepted();
   void SetButtonsEnabled(bool enabled);
-  void PlayWeekOfTable();
-  void RebuildRoster();
+  void PlayGamesOfWeek(int week);
+  void ReadRoster();
   void TickSimulating();
   void SaveRoster();
+  void ShowPlayer(int name_of, int numbers_of);
   void WatchGame(const std::string& name1, const std::string& name2);
+  bool IsUsers(const std::string& name1, const std::string& name2) const;
   void SimulateUnwatched();
   void ShowOwnResult(const std::string& name1, const std::string& name2);
   void AddAlert(const std::string& name1, const std::string& name2);
   void Develop(RecordList& list, int i, const char* skill);
+  void CheckFinalTables();
+  void CrownChampion();
+  void Relocate(const std::string& team, std::size_t from, std::size_t to, Label& shown);
 
   Program& program_;
 };

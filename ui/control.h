@@ -11,8 +11,8 @@ class Frame;
 class Screen;
 class TabStrip;
 
-// Where a control lies: on a screen, perhaps in one of its frames, perhaps on a page of a tab strip.
-// A screen, a frame and a page each stand for themselves wherever a Place is asked for.
+// Where a control lies: on a screen, perhaps in one of its frames, perhaps on a page of a tab
+// strip. A screen, a frame and a page each stand for themselves wherever a Place is asked for.
 struct Place {
   Place(Screen& on_screen);  // NOLINT(google-explicit-constructor)
   Place(Frame& in_frame);    // NOLINT(google-explicit-constructor)
@@ -51,8 +51,8 @@ enum class Start {
 };
 
 // Anything on a screen. Controls are public members of their screen, bear their names for good and
-// live as long as it. The game changes them; a front end watches them through an observer and brings
-// the user's doings back by the handlers of each kind.
+// live as long as it. The game changes them; a front end watches them through an observer and
+// brings the user's doings back by the handlers of each kind.
 class Control {
  public:
   // Told after any change of a control's state except a list's items, which have an observer of

@@ -23,9 +23,8 @@ unsigned char Lower(char c) {
 }
 
 bool BeforeWithoutCase(const std::string& a, const std::string& b) {
-  const auto difference =
-      std::mismatch(a.begin(), a.end(), b.begin(), b.end(),
-                    [](char x, char y) { return Lower(x) == Lower(y); });
+  const auto difference = std::mismatch(a.begin(), a.end(), b.begin(), b.end(),
+                                        [](char x, char y) { return Lower(x) == Lower(y); });
   if (difference.first == a.end() && difference.second == b.end()) return a < b;
   if (difference.first == a.end() || difference.second == b.end()) return a.size() < b.size();
   return Lower(*difference.first) < Lower(*difference.second);

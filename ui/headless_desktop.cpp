@@ -12,8 +12,7 @@ constexpr HeadlessDesktop::Time kForever = HeadlessDesktop::Time::max();
 
 }  // namespace
 
-HeadlessDesktop::HeadlessDesktop()
-    : start_of_clock_(hours(12)), timers_([this] { return now_; }) {}
+HeadlessDesktop::HeadlessDesktop() : start_of_clock_(hours(12)), timers_([this] { return now_; }) {}
 
 void HeadlessDesktop::Open(ScreenList& screens) { timers_.Watch(screens); }
 

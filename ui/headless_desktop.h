@@ -64,6 +64,7 @@ class HeadlessDesktop : public Desktop {
 
  protected:
   bool RunAtYield();
+  void CountYield() { ++yields_; }
   void CountWait() { ++waits_; }
   std::optional<std::string> TakeAnswer();
   const std::deque<std::string>& Answers() const { return answers_; }

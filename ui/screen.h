@@ -25,8 +25,8 @@ class ScreenList {
   std::vector<Screen*> visible_;
 };
 
-// One window of the game. Its public members are its controls; screens are shown and hidden but live
-// as long as the program, so that they keep their contents between uses.
+// One window of the game. Its public members are its controls; screens are shown and hidden but
+// live as long as the program, so that they keep their contents between uses.
 class Screen {
  public:
   class Observer {

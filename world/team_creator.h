@@ -7,8 +7,8 @@ namespace frostmark {
 
 class Program;
 
-// A small tool screen that rolls a roster of eleven. Hidden, it does so for the league build and for
-// the create-a-team panel, and its name lists serve the draft.
+// A small tool screen that rolls a roster of eleven. Hidden, it does so for the league build and
+// for the create-a-team panel, and its name lists serve the draft.
 class TeamCreator : public Screen {
  public:
   explicit TeamCreator(Program& program);
@@ -22,14 +22,11 @@ class TeamCreator : public Screen {
   ListBox List1{*this, "List1"};  // the roster rolled last
   ListBox List2{*this, "List2"};  // given names, most common first
   ListBox List3{*this, "List3"};  // family names, most common first
-  ComboBox Combo1{*this,
-                  "Combo1",
-                  "Select Rank",
-                  {"Rank F", "Rank E", "Rank D", "Rank C", "Rank B", "Rank A"}};
+  ComboBox Combo1{
+      *this, "Combo1", "Select Rank", {"Rank F", "Rank E", "Rank D", "Rank C", "Rank B", "Rank A"}};
   Button Command2{*this, "Command2", "Generate"};
   Button Command1{*this, "Command1", "Save"};
-  Label Label4{*this, "Label4",
-               "Offense                      Defense                   Overall"};
+  Label Label4{*this, "Label4", "Offense                      Defense                   Overall"};
   Label Label5{*this, "Label5", "0"};
   Label Label6{*this, "Label6", "0"};
   Label Label7{*this, "Label7", "0"};

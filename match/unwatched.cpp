@@ -1,0 +1,202 @@
+#include "match/game_simulation.h"
+#include "shell/program.h"
+
+namespace frostmark {
+namespace {
+
+constexpr int kStepsOfGame = 600;
+constexpr int kFaceOffDue = -2;
+constexpr int kOutletDue = -1;
+constexpr int kShotDue = 0;
+
+// Positions are looked for in the whole record, so a name with the two capitals in it counts too.
+bool Plays(const std::string& record, std::string_view position) {
+  return Ordvik::ContainsText(1, record, position);
+}
+
+Int16 Rating(const std::string& record, Field field) {
+  return StrictInt16(FieldView(record, field));
+}
+
+void CopyLeadLine(UiQueue& queue, const RecordList& roster, RecordList& line) {
+  const int count = roster.ListCount();
+  for (int i = 0; i < count; ++i) {
+    if (FieldView(roster.List(i), Field::kTraining) == "N") line.AddItem(roster.List(i));
+    queue.Yield();
+  }
+}
+
+}  // namespace
+
+GameSimulation::GameSimulation(Program& program) : program_(program) {}
+
+void GameSimulation::LoadGameLines(const RecordList& list1, const RecordList& list2) {
+  Franchise& lists = program_.franchise;
+  lists.Line1Stats.Clear();
+  lists.Line2Stats.Clear();
+  GoalsTeam1 = 0;
+  GoalsTeam2 = 0;
+  CopyLeadLine(program_.desktop, list1, lists.Line1Stats);
+  CopyLeadLine(program_.desktop, list2, lists.Line2Stats);
+}
+
+void GameSimulation::SimulateGame() {
+  FaceOff();
+  for (int step = 0; step < kStepsOfGame; ++step) {
+    PlayStep();
+    program_.desktop.Yield();
+  }
+  // A level score stays a tie, and a possession under way is dropped.
+  program_.franchise.Score1 = GoalsTeam1;
+  program_.franchise.Score2 = GoalsTeam2;
+}
+
+void GameSimulation::LoadIceLists() {
+  Franchise& lists = program_.franchise;
+  lists.LineList.Clear();
+  lists.DefList.Clear();
+  if (PuckTeam != 1 && PuckTeam != 2) return;
+  RecordList& first = PuckTeam == 1 ? lists.LineList : lists.DefList;
+  RecordList& second = PuckTeam == 1 ? lists.DefList : lists.LineList;
+  // The team with the puck sets the length of both: a shorter line leaves empty items behind.
+  const RecordList& leading = PuckTeam == 1 ? lists.Line1Stats : lists.Line2Stats;
+  for (int i = leading.ListCount() - 1; i >= 0; --i) {
+    first.AddItem(lists.Line1Stats.List(i));
+    second.AddItem(lists.Line2Stats.List(i));
+    program_.desktop.Yield();
+  }
+}
+
+void GameSimulation::PlayStep() {
+  LoadIceLists();
+  if (PassesLeft == kFaceOffDue) return FaceOff();
+  if (PassesLeft == kOutletDue) return OutletStep();
+  if (PassesLeft == kShotDue) return ShotStep();
+  const int side = program_.ordvik.RollUpTo(2);
+  // The pass is finished all the same, so one of the new face-off's passes is gone with it.
+  if (PuckCarrier.empty()) FaceOff();
+  NotePasser();
+  if (PuckPosition == "RF") {
+    PuckPosition = side == 1 ? "CF" : "LF";
+  } else if (PuckPosition == "CF") {
+    PuckPosition = side == 1 ? "RF" : "LF";
+  } else if (PuckPosition == "LF") {
+    PuckPosition = side == 1 ? "CF" : "RF";
+  } else {
+    const int forward = program_.ordvik.RollUpTo(3);
+    // Before the first outlet pass of a run there is no position, and this roll counts for nothing.
+    if (PuckPosition == "RD" || PuckPosition == "LD") {
+      PuckPosition = forward == 1 ? "LF" : forward == 2 ? "CF" : "RF";
+    }
+  }
+  PassAlong();
+  PassesLeft -= 1;
+}
+
+void GameSimulation::NotePasser() {
+  const RecordList& line = program_.franchise.LineList;
+  const int count = line.ListCount();
+  for (int i = 0; i < count; ++i) {
+    if (Plays(line.List(i), PuckPosition)) PasserName = FieldView(PuckCarrier, Field::kName);
+    program_.desktop.Yield();
+  }
+}
+
+// Of several players at the position the last one gets the puck: the first of the team's own order.
+void GameSimulation::PassAlong() {
+  const RecordList& line = program_.franchise.LineList;
+  const int count = line.ListCount();
+  for (int i = 0; i < count; ++i) {
+    if (Plays(line.List(i), PuckPosition)) PuckCarrier = line.List(i);
+    program_.desktop.Yield();
+  }
+}
+
+// The index of the last player of LINE at POSITION, -1 if there is none.
+int GameSimulation::FindPlayer(const RecordList& line, std::string_view position) {
+  int found = -1;
+  const int count = line.ListCount();
+  for (int i = 0; i < count; ++i) {
+    if (Plays(line.List(i), position)) found = i;
+    program_.desktop.Yield();
+  }
+  return found;
+}
+
+void GameSimulation::FaceOff() {
+  const RecordList& line1 = program_.franchise.Line1Stats;
+  const RecordList& line2 = program_.franchise.Line2Stats;
+  int centre1 = FindPlayer(line1, "CF");
+  int centre2 = FindPlayer(line2, "CF");
+  // A line without a centre sends its right forward; one without either sends nobody.
+  if (centre1 < 0) centre1 = FindPlayer(line1, "RF");
+  if (centre2 < 0) centre2 = FindPlayer(line2, "RF");
+  const bool first_wins = program_.ordvik.RollUpTo(2) == 1;
+  PuckCarrier = first_wins ? line1.List(centre1) : line2.List(centre2);
+  PuckTeam = first_wins ? 1 : 2;
+  LoadIceLists();
+  // PuckPosition stays on purpose: the first pass starts from where play last stood.
+  PassesLeft = program_.ordvik.RollUpTo(6);
+}
+
+void GameSimulation::OutletStep() {
+  LoadIceLists();
+  NotePasser();
+  if (Plays(Defender, "GO")) {
+    PuckPosition = program_.ordvik.RollUpTo(2) == 1 ? "RD" : "LD";
+  } else {
+    const int forward = program_.ordvik.RollUpTo(3);
+    PuckPosition = forward == 1 ? "RF" : forward == 2 ? "CF" : "LF";
+  }
+  PassAlong();
+  PassesLeft = program_.ordvik.RollUpTo(4);
+}
+
+void GameSimulation::MeetDefender(std::string_view position, Int16& defense) {
+  const RecordList& line = program_.franchise.DefList;
+  const int count = line.ListCount();
+  for (int i = 0; i < count; ++i) {
+    if (Plays(line.List(i), position)) {
+      Defender = line.List(i);
+      defense = Rating(Defender, Field::kDefense);
+    }
+    program_.desktop.Yield();
+  }
+}
+
+// A shot that misses, or that the goalie lets slip away without a save, changes nothing: the same
+// carrier shoots again at the next step.
+void GameSimulation::ShotStep() {
+  Ordvik& ordvik = program_.ordvik;
+  LoadIceLists();
+  Int16 defense = 0;
+  Int16 shooting = 0;
+  const char* const side = ordvik.RollUpTo(2) == 1 ? "RD" : "LD";
+  DefenderPosition = side;
+  MeetDefender(side, defense);
+  const int shot = ordvik.RollUpTo(100);
+  if (PuckCarrier.empty()) {
+    FaceOff();
+  } else {
+    shooting = Rating(PuckCarrier, Field::kShooting);
+  }
+  if (shot > shooting) return;
+  if (ordvik.RollUpTo(110) <= defense) return TurnOver();
+  ordvik.RollUpTo(100);  // the puck on its way to the goalie: rolled, and used by nothing
+  MeetDefender("GO", defense);
+  if (ordvik.RollUpTo(100) > defense) return;
+  if (ordvik.RollUpTo(105) <= defense) return TurnOver();
+  if (PuckTeam == 1) GoalsTeam1 += 1;
+  if (PuckTeam == 2) GoalsTeam2 += 1;
+  PassesLeft = kFaceOffDue;
+}
+
+void GameSimulation::TurnOver() {
+  PasserName = FieldView(PuckCarrier, Field::kName);
+  PuckCarrier = Defender;
+  PuckTeam = PuckTeam == 1 ? 2 : 1;
+  LoadIceLists();
+  PassesLeft = kOutletDue;
+}
+
+}  // namespace frostmark

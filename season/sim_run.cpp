@@ -1,0 +1,50 @@
+#include <cmath>
+
+#include "shell/program.h"
+
+namespace frostmark {
+namespace {
+
+constexpr std::string_view kWeekPrefix = "Week ";
+
+std::string WithoutPrefix(std::string text) {
+  for (std::size_t at = text.find(kWeekPrefix); at != std::string::npos;
+       at = text.find(kWeekPrefix, at)) {
+    text.erase(at, kWeekPrefix.size());
+  }
+  return text;
+}
+
+}  // namespace
+
+void Franchise::ConnectSimRun() {
+  Command2.OnClick = [this] { PressSim(); };
+  Command5.OnClick = [this] { Command5.Hide(); };
+}
+
+void Franchise::PressSim() {
+  const auto refuse = [this](const char* text) {
+    program_.desktop.ShowBox({BoxIcon::kStop, BoxButtons::kOk, text});
+  };
+  if (NextWeek.Caption() == "Off Season") return refuse("You can't simulate the off season!");
+  const std::string answer = program_.desktop.AskText("Simulate until which week?");
+  if (!IsNumeric(answer)) return refuse("You must enter a valid number!");
+  const double target = std::floor(LenientNumber(answer));
+  const Int16 current = StrictInt16(WithoutPrefix(NextWeek.Caption()));
+  if (target <= current) return refuse("You must select a week greater than your current!");
+  // It is the current week that is looked at and not the target, so this never comes up in a
+  // season: a target beyond the schedule plays on through the off-season.
+  if (current > 11) return refuse("You can't simulate beyond the currect schedule!");
+
+  const std::string target_marker = std::string(kWeekPrefix) + WholeNumberText(target);
+  SimRunning = true;
+  Command5.Show();
+  do {
+    PressBegin();
+    program_.desktop.Yield();
+  } while (NextWeek.Caption() != target_marker && Command5.Visible());
+  SimRunning = false;
+  Command5.Hide();
+}
+
+}  // namespace frostmark

@@ -1,0 +1,75 @@
+#include "shell/program.h"
+
+namespace frostmark {
+
+void Startup::ConnectNewFranchise() {
+  HighButton4.OnClick = [this] { PressNew(); };
+  HighButton7.OnClick = [this] { PressGenerate(); };
+  HighButton6.OnClick = [this] { PressBegin(); };
+  Label3.OnClick = [this] { Frame1.Hide(); };
+  Label12.OnClick = [this] { ClickWantedOverall(); };
+}
+
+void Startup::PressNew() {
+  // A league of six is the only sign of a running game: a world without a user's team has five.
+  constexpr int kTeamsOfRunningGame = 6;
+  File1.SetPath(program_.ordvik.RankFolder("Rank F"));
+  if (File1.ListCount() == kTeamsOfRunningGame) {
+    const Answer answer = program_.desktop.ShowBox(
+        {BoxIcon::kStop, BoxButtons::kYesNo,
+         "There is already a loaded game in progress. Would you like to create a new game?\n"
+         "Warning: Doing this will delete your last game."});
+    if (answer != Answer::kYes) return;
+    BuildLeague();
+  }
+  // After a build the listing is that of the league built over last, not of "Rank F".
+  if (File1.ListCount() == 0) BuildLeague();
+  Frame1.Show();
+}
+
+void Startup::PressGenerate() {
+  const ListBox& team = program_.team_creator.List1;
+  const HockeyNaming& naming = program_.hockey_naming;
+  program_.team_creator.GenTeam();
+  Label10.SetCaption(std::to_string(naming.TeamOffense));
+  Label9.SetCaption(std::to_string(naming.TeamDefense));
+  Label8.SetCaption(std::to_string(naming.TeamOverall));
+  List1.Clear();
+  List2.Clear();
+  for (int i = team.ListCount() - 1; i >= 0; --i) {
+    const std::string_view training = FieldView(team.List(i), Field::kTraining);
+    if (training == "N") List1.AddItem(PanelLine(team.List(i)));
+    if (training == "Y") List2.AddItem(PanelLine(team.List(i)));
+  }
+}
+
+void Startup::PressBegin() {
+  Franchise& franchise = program_.franchise;
+  const ListBox& team = program_.team_creator.List1;
+  const std::string name = Text1.Text() + " " + Text2.Text();
+  program_.ordvik.SaveListFile(team, program_.ordvik.TeamPath("Rank F", name));
+  Hide();
+  franchise.Show();
+  // Not cleared first: a second franchise in one run adds to the roster of the one before.
+  franchise.AddAllToRoster(team);
+  franchise.ShowOwnRatings();
+  franchise.TeamName.SetCaption(Text1.Text() + " " + Text2.Text());
+  franchise.LoadNewTeams();
+  franchise.GenSchedule();
+  franchise.MyRank.SetCaption("Rank F");
+  franchise.GetNextWeek();
+  Frame1.Hide();
+  HighButton4.Hide();
+  HighButton5.Hide();
+  franchise.SaveGame();
+}
+
+void Startup::ClickWantedOverall() {
+  const std::string wanted = program_.desktop.AskText("Desired overall?");
+  do {
+    PressGenerate();
+    program_.desktop.Yield();
+  } while (Label8.Caption() != wanted);
+}
+
+}  // namespace frostmark

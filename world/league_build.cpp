@@ -1,0 +1,87 @@
+#include <array>
+#include <limits>
+
+#include "shell/program.h"
+
+namespace frostmark {
+namespace {
+
+constexpr std::array<const char*, 35> kCities = {
+    "Binghamton", "Baltimore",  "Boston",       "Chicago",      "Cleveland",    "Denver",
+    "Edmonton",   "Houston",    "Indianapolis", "Jacksonville", "Juneau",       "Manitoba",
+    "Minneasota", "New Jersey", "New York",     "Ottawa",       "Philadelphia", "Phoenix",
+    "Pittsburgh", "Quebec",     "Rhode Island", "Richmond",     "Sakatoon",     "San Diego",
+    "Seattle",    "Syracuse",   "Toronto",      "Utah",         "Utica",        "Vancouver",
+    "Victoria",   "Virginia",   "Winnipeg",     "Worcester",    "Los Angeles"};
+
+constexpr std::array<const char*, 35> kNicknames = {
+    "Whalers", "Clippers",  "Braves",   "Cougars",       "Crusaders", "Blizzard",    "Roadrunners",
+    "Aeros",   "Capitals",  "Barons",   "Eskimos",       "Moose",     "North Stars", "Knights",
+    "Raiders", "Nationals", "Quakers",  "Heat",          "Hornets",   "Citadelles",  "Reds",
+    "Robins",  "Sheiks",    "Mariners", "Metropolitans", "Firebirds", "Toros",       "Grizzlies",
+    "Devils",  "Maroons",   "Senators", "Wings",         "Jets",      "Ice Cats",    "Freeze"};
+
+// The strength of a new league's teams. The bands are uneven on purpose: 84 belongs to no league,
+// 80, 82, 86 and 88 to two.
+struct Band {
+  const char* rank;
+  int teams;
+  int weakest;
+  int strongest;
+};
+
+constexpr std::array<Band, kRankCount> kBands = {{
+    {"Rank F", 5, std::numeric_limits<int>::min(), 80},  // the user's team will be the sixth
+    {"Rank E", 6, 80, 82},
+    {"Rank D", 6, 82, 83},
+    {"Rank C", 6, 85, 86},
+    {"Rank B", 6, 86, 88},
+    {"Rank A", 6, 88, std::numeric_limits<int>::max()},
+}};
+
+// Takes one item out of LIST by chance.
+std::string Draw(Ordvik& ordvik, RecordList& list) {
+  const int index = ordvik.RollUpTo(list.ListCount()) - 1;
+  std::string item = list.List(index);
+  list.RemoveItem(index);
+  return item;
+}
+
+}  // namespace
+
+void Startup::BuildLeague() {
+  program_.desktop.ShowBox(
+      {BoxIcon::kInformation, BoxButtons::kOk, "Please wait as this may take some time..."});
+  for (const char* city : kCities) List3.AddItem(city);
+  for (const char* nickname : kNicknames) List4.AddItem(nickname);
+  for (const char* rank : kRanks) {
+    File1.SetPath(program_.ordvik.RankFolder(rank));
+    const int count = File1.ListCount();
+    for (int i = 0; i < count; ++i) {
+      Ordvik::DeleteFile(program_.ordvik.TeamPath(rank, File1.List(i)));
+      program_.desktop.Yield();
+    }
+  }
+  for (const Band& band : kBands) {
+    for (int team = 0; team < band.teams; ++team)
+      BuildTeam(band.rank, band.weakest, band.strongest);
+  }
+  program_.franchise.Season.SetCaption("0");
+  program_.franchise.Champion.SetCaption("0");
+}
+
+void Startup::BuildTeam(const char* rank, int weakest, int strongest) {
+  TeamCreator& creator = program_.team_creator;
+  double overall = 0;
+  do {
+    creator.GenTeam();
+    program_.desktop.Yield();
+    overall = LenientNumber(creator.Label7.Caption());
+  } while (overall < weakest || overall > strongest);
+  const std::string city = Draw(program_.ordvik, List3);
+  const std::string team = city + " " + Draw(program_.ordvik, List4);
+  program_.ordvik.SaveListFile(creator.List1, program_.ordvik.TeamPath(rank, team));
+  program_.desktop.Yield();
+}
+
+}  // namespace frostmark
