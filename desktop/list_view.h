@@ -4,9 +4,9 @@
 
 namespace frostmark {
 
-// The view of a list control. It turns clicks and keys into the two things a list of the game knows:
-// an item is chosen (click, arrow keys, Space) or activated (double click, Enter). What follows may
-// change or empty the list, so both are said when the view is done with the event.
+// The view of a list control. It turns clicks and keys into the two things a list of the game
+// knows: an item is chosen (click, arrow keys, Space) or activated (double click, Enter). What
+// follows may change or empty the list, so both are said when the view is done with the event.
 class ListView : public QListView {
   Q_OBJECT
 

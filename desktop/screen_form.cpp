@@ -5,7 +5,6 @@
 namespace frostmark {
 
 ScreenForm::ScreenForm(QWidget* parent) : QWidget(parent) {
-  setObjectName("look_form");
   setAttribute(Qt::WA_StyledBackground);
 }
 

@@ -11,9 +11,10 @@ void Ordvik::WaitSeconds(const std::string& seconds) {
   const auto start = program_.desktop.SinceMidnight();
   // The clock begins anew at midnight and is not corrected for it: the difference is then negative,
   // and the wait lasts until the same time of the next day.
-  for (auto passed = length - length; passed < length;
-       passed = program_.desktop.SinceMidnight() - start) {
+  std::chrono::microseconds passed{0};
+  while (passed < length) {
     queue_.WaitFor(length - passed);
+    passed = program_.desktop.SinceMidnight() - start;
   }
 }
 

@@ -6,29 +6,16 @@
 #include <utility>
 
 #include "desktop/delegates/row_painter.h"
+#include "desktop/delegates/team_columns.h"
 #include "desktop/delegates/team_line.h"
 
 namespace frostmark {
 
 namespace {
 
-// The columns of a row, from the font alone.
-struct Columns {
-  explicit Columns(const QStyleOptionViewItem& option)
-      : gap(row::Margin(option)),
-        mark(option.fontMetrics.height() * 0.75),
-        place(QFontMetricsF(option.font).horizontalAdvance("0")),
-        count(QFontMetricsF(option.font).horizontalAdvance("000")) {}
-
-  double gap;
-  double mark;
-  double place;
-  double count;
-};
-
 void PaintTeam(QPainter& painter, const QStyleOptionViewItem& option, const TeamLine& line, int row,
                League league) {
-  const Columns columns(option);
+  const TeamColumns columns(option.font);
   QRectF rest = QRectF(option.rect).adjusted(columns.gap, 0, -columns.gap, 0);
 
   QRectF place = rest;
@@ -79,7 +66,7 @@ void TeamDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
 QSize TeamDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
   QStyleOptionViewItem prepared = option;
   initStyleOption(&prepared, index);
-  const Columns columns(prepared);
+  const TeamColumns columns(prepared.font);
   const auto line = ParseTeamLine(prepared.text);
   const double name = row::BoldWidth(prepared, line ? line->team : prepared.text);
   const double others =
