@@ -1,0 +1,2 @@
+set(shell_tests
+  records_list_test.cpp)
