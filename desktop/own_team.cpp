@@ -1,5 +1,9 @@
 #include "desktop/own_team.h"
 
+#include <QColor>
+#include <QLabel>
+
+#include "desktop/palette.h"
 #include "shell/franchise.h"
 
 namespace frostmark {
@@ -9,6 +13,12 @@ std::function<QString()> OwnTeam(const Screen& screen) {
   return [franchise] {
     return franchise != nullptr ? QString::fromStdString(franchise->TeamName.Caption()) : QString();
   };
+}
+
+void ShowOwn(QLabel& label, bool own) {
+  const QString style =
+      own ? QStringLiteral("color: %1").arg(QColor(palette::kGold).name()) : QString();
+  if (label.styleSheet() != style) label.setStyleSheet(style);
 }
 
 }  // namespace frostmark

@@ -1,7 +1,6 @@
 #include "desktop/delegates/history_delegate.h"
 
 #include <QPainter>
-#include <cmath>
 #include <utility>
 
 #include "desktop/delegates/history_line.h"
@@ -94,12 +93,8 @@ void HistoryDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
 }
 
 QSize HistoryDelegate::sizeHint(const QStyleOptionViewItem& option,
-                                const QModelIndex& index) const {
-  QStyleOptionViewItem prepared = option;
-  initStyleOption(&prepared, index);
-  const double width =
-      row::BoldWidth(prepared, prepared.text) + row::Margin(prepared) * 2 + SignSize(prepared);
-  return {static_cast<int>(std::ceil(width)), row::Height(prepared)};
+                                const QModelIndex& /*index*/) const {
+  return {0, row::Height(option)};
 }
 
 }  // namespace frostmark

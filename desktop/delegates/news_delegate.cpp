@@ -1,7 +1,6 @@
 #include "desktop/delegates/news_delegate.h"
 
 #include <QPainter>
-#include <cmath>
 #include <utility>
 
 #include "desktop/delegates/news_line.h"
@@ -63,12 +62,9 @@ void NewsDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   painter->restore();
 }
 
-QSize NewsDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
-  QStyleOptionViewItem prepared = option;
-  initStyleOption(&prepared, index);
-  const double width =
-      row::BoldWidth(prepared, prepared.text) + row::Margin(prepared) + DiscSize(prepared);
-  return {static_cast<int>(std::ceil(width)), row::Height(prepared)};
+QSize NewsDelegate::sizeHint(const QStyleOptionViewItem& option,
+                             const QModelIndex& /*index*/) const {
+  return {0, row::Height(option)};
 }
 
 }  // namespace frostmark

@@ -2,7 +2,6 @@
 
 #include <QPainter>
 #include <algorithm>
-#include <cmath>
 
 #include "desktop/delegates/player_line.h"
 #include "desktop/delegates/row_painter.h"
@@ -92,18 +91,9 @@ void PlayerDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option
   painter->restore();
 }
 
-QSize PlayerDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
-  QStyleOptionViewItem prepared = option;
-  initStyleOption(&prepared, index);
-  const Columns columns(prepared);
-  const auto player = ParsePlayerLine(prepared.text);
-  const QString& name = player ? player->name : prepared.text;
-  double width = QFontMetricsF(prepared.font).horizontalAdvance(name) + 2 * columns.gap;
-  if (player) {
-    width += columns.shortest_bar + columns.number + columns.age + 3 * columns.gap;
-    if (!player->position.isEmpty()) width += columns.badge.width() + columns.gap;
-  }
-  return {static_cast<int>(std::ceil(width)), row::Height(prepared)};
+QSize PlayerDelegate::sizeHint(const QStyleOptionViewItem& option,
+                               const QModelIndex& /*index*/) const {
+  return {0, row::Height(option)};
 }
 
 }  // namespace frostmark

@@ -82,12 +82,6 @@ void PaintOwn(QPainter& painter, const QStyleOptionViewItem& option) {
   painter.drawRoundedRect(QRectF(rect.left(), rect.top() + 3, 3.5, rect.height() - 6), 1.75, 1.75);
 }
 
-double BoldWidth(const QStyleOptionViewItem& option, const QString& text) {
-  QFont font = option.font;
-  font.setBold(true);
-  return QFontMetricsF(font).horizontalAdvance(text) + 2 * Margin(option);
-}
-
 void PaintPlain(QPainter& painter, const QStyleOptionViewItem& option, const QString& text) {
   const double margin = Margin(option);
   PaintText(painter, QRectF(option.rect).adjusted(margin, 0, -margin, 0), text, TextColor(option));

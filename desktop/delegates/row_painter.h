@@ -14,7 +14,8 @@ namespace frostmark {
 // and keyboard focus, and their texts.
 namespace row {
 
-// The height of a row and the space at its two ends, from the font alone.
+// The height of a row and the space at its two ends, from the font alone. A row has no width of its
+// own: it fills its list, whose form sees to it that there is room.
 int Height(const QStyleOptionViewItem& option);
 double Margin(const QStyleOptionViewItem& option);
 
@@ -42,9 +43,6 @@ void PaintRuns(QPainter& painter, const QRectF& rect, const std::vector<Run>& ru
 
 // Marks the row as the user's own: a tint and a bright edge at its left end.
 void PaintOwn(QPainter& painter, const QStyleOptionViewItem& option);
-
-// The width of TEXT when it is bold, with the margins of the row.
-double BoldWidth(const QStyleOptionViewItem& option, const QString& text);
 
 // Draws the whole row as plain text: a line that is in no known form.
 void PaintPlain(QPainter& painter, const QStyleOptionViewItem& option, const QString& text);

@@ -2,7 +2,6 @@
 
 #include <QPainter>
 #include <array>
-#include <cmath>
 #include <utility>
 
 #include "desktop/delegates/row_painter.h"
@@ -63,15 +62,9 @@ void TeamDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   painter->restore();
 }
 
-QSize TeamDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
-  QStyleOptionViewItem prepared = option;
-  initStyleOption(&prepared, index);
-  const TeamColumns columns(prepared.font);
-  const auto line = ParseTeamLine(prepared.text);
-  const double name = row::BoldWidth(prepared, line ? line->team : prepared.text);
-  const double others =
-      line ? columns.place + columns.mark + 3 * columns.count + 3 * columns.gap : 0;
-  return {static_cast<int>(std::ceil(name + others)), row::Height(prepared)};
+QSize TeamDelegate::sizeHint(const QStyleOptionViewItem& option,
+                             const QModelIndex& /*index*/) const {
+  return {0, row::Height(option)};
 }
 
 }  // namespace frostmark

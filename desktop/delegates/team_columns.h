@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QFontMetricsF>
+
+namespace frostmark {
+
+// The columns of a league's standings, from the font alone, so that the heading stands over them.
+struct TeamColumns {
+  explicit TeamColumns(const QFont& font) {
+    const QFontMetricsF metrics(font);
+    gap = metrics.height() * 0.45;
+    mark = metrics.height() * 0.75;
+    place = metrics.horizontalAdvance("0");
+    count = metrics.horizontalAdvance("000");
+  }
+
+  double gap;
+  double mark;
+  double place;
+  double count;  // each of wins, losses, ties
+};
+
+}  // namespace frostmark

@@ -1,0 +1,20 @@
+#include "desktop/decorations.h"
+#include "desktop/delegates/player_delegate.h"
+#include "desktop/list_view.h"
+#include "desktop/screen_form.h"
+#include "desktop/widgets/glow_frame.h"
+#include "desktop/widgets/room.h"
+#include "draft/f_select_draft.h"
+
+namespace frostmark {
+
+void DecorateFSelectDraft(FSelectDraft& /*screen*/, ScreenForm& form) {
+  auto& list = Part<ListView>(form, "List1");
+  list.setItemDelegate(new PlayerDelegate(&list));
+  GiveRoom(list, 52, 11);
+  list.setFocus();
+  // The screen is only ever there when the user's choice is awaited.
+  Part<GlowFrame>(form, "look_choice").SetLit(true);
+}
+
+}  // namespace frostmark

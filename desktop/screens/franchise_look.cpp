@@ -1,0 +1,63 @@
+#include <QLabel>
+#include <QPushButton>
+#include <array>
+
+#include "desktop/decorations.h"
+#include "desktop/delegates/news_delegate.h"
+#include "desktop/delegates/player_delegate.h"
+#include "desktop/delegates/team_delegate.h"
+#include "desktop/list_view.h"
+#include "desktop/own_team.h"
+#include "desktop/screen_form.h"
+#include "desktop/widgets/room.h"
+#include "shell/franchise.h"
+
+namespace frostmark {
+
+namespace {
+
+constexpr std::array kStandings = {"StatRankF", "StatRankE", "StatRankD",
+                                   "StatRankC", "StatRankB", "StatRankA"};
+
+void DressStandings(const Franchise& screen, ScreenForm& form) {
+  for (std::size_t i = 0; i < kStandings.size(); ++i) {
+    const League league = i == 0                       ? League::kBottom
+                          : i + 1 == kStandings.size() ? League::kTop
+                                                       : League::kMiddle;
+    auto& list = Part<ListView>(form, kStandings[i]);
+    list.setItemDelegate(new TeamDelegate(league, OwnTeam(screen), &list));
+    GiveRoom(list, 44, 6);
+  }
+}
+
+void DressRoster(ScreenForm& form) {
+  for (const char* name : {"MainRoster", "TrainingRoster"}) {
+    auto& list = Part<ListView>(form, name);
+    list.setItemDelegate(new PlayerDelegate(&list));
+    GiveRoom(list, 42, 8);
+  }
+}
+
+// Keeps the place of a widget that comes and goes, so that the others do not jump.
+void KeepPlace(QWidget& widget) {
+  QSizePolicy policy = widget.sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  widget.setSizePolicy(policy);
+}
+
+}  // namespace
+
+void DecorateFranchise(Franchise& screen, ScreenForm& form) {
+  auto& alerts = Part<ListView>(form, "Alerts");
+  alerts.setItemDelegate(new NewsDelegate(OwnTeam(screen), &alerts));
+  GiveRoom(alerts, 80, 8);
+  DressStandings(screen, form);
+  DressRoster(form);
+
+  ShowOwn(Part<QLabel>(form, "TeamName"), true);
+  KeepPlace(Part<QLabel>(form, "Label18"));
+  KeepPlace(Part<QPushButton>(form, "Command5"));
+  Part<QPushButton>(form, "HighButton1").setFocus();
+}
+
+}  // namespace frostmark

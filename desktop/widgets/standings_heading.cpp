@@ -1,0 +1,30 @@
+#include "desktop/widgets/standings_heading.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <cmath>
+
+#include "desktop/delegates/team_columns.h"
+#include "desktop/palette.h"
+
+namespace frostmark {
+
+QSize StandingsHeading::sizeHint() const {
+  const TeamColumns columns(font());
+  return {static_cast<int>(std::ceil(3 * columns.count + 2 * columns.gap)),
+          static_cast<int>(std::ceil(QFontMetricsF(font()).height() * 1.3))};
+}
+
+void StandingsHeading::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.setPen(QColor(palette::kFrost));
+  const TeamColumns columns(font());
+  QRectF column(0, 0, columns.count, height());
+  column.moveRight(width() - columns.gap);
+  for (const char* letter : {"T", "L", "W"}) {
+    painter.drawText(column, static_cast<int>(Qt::AlignRight | Qt::AlignVCenter), letter);
+    column.translate(-columns.count, 0);
+  }
+}
+
+}  // namespace frostmark

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QWidget>
+#include <vector>
+
+#include "desktop/widgets/place_mark.h"
+
+namespace frostmark {
+
+// Says what the marks of the standings mean, on one line.
+class StandingsLegend : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit StandingsLegend(QWidget* parent = nullptr) : QWidget(parent) {}
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+}  // namespace frostmark
