@@ -1,0 +1,111 @@
+// What a person does with mouse and keyboard, and "force", which does it where no person could.
+#include <algorithm>
+#include <array>
+
+#include "console/commands.h"
+#include "console/console.h"
+#include "console/refusal.h"
+
+namespace frostmark {
+namespace {
+
+// The handlers that these commands raise may run for hours with other commands on top of them, so
+// names and texts are dealt with in functions of their own and are gone by then.
+
+const Handler& HandlerToClick(Console& console, Words& words, bool checked) {
+  const std::string name = words.Next("a name");
+  words.ExpectEnd();
+  Control& control = console.names.FindControl(name);
+  const Handler* handler = ClickHandler(control);
+  if (handler == nullptr) throw Refusal{name + " cannot be clicked"};
+  if (checked) CheckReach(control);
+  return *handler;
+}
+
+void Click(Console& console, Words& words) { Raise(HandlerToClick(console, words, true)); }
+
+void Force(Console& console, Words& words) { Raise(HandlerToClick(console, words, false)); }
+
+struct ChosenItem {
+  ListBox& list;
+  int index;
+};
+
+ChosenItem ItemToChoose(Console& console, Words& words, int least) {
+  const std::string name = words.Next("a list");
+  const int index = words.NextNumber("the index");
+  words.ExpectEnd();
+  Control& control = console.names.FindControl(name);
+  ListBox* const list = AsList(control);
+  if (list == nullptr) throw Refusal{name + " is no list"};
+  CheckReach(control);
+  if (index < least || index >= list->ListCount()) {
+    throw Refusal{name + " has no item " + std::to_string(index)};
+  }
+  return {*list, index};
+}
+
+void Select(Console& console, Words& words) {
+  const ChosenItem item = ItemToChoose(console, words, -1);
+  if (item.index == -1) {
+    item.list.SetListIndex(-1);
+  } else {
+    item.list.Select(item.index);
+  }
+}
+
+void DoubleClick(Console& console, Words& words) {
+  const ChosenItem item = ItemToChoose(console, words, 0);
+  item.list.DoubleClick(item.index);
+}
+
+// The control named next, which is of the class Kind and within reach.
+template <typename Kind>
+Kind& Reachable(Console& console, Words& words, const char* kind_word) {
+  const std::string name = words.Next(kind_word);
+  Control& control = console.names.FindControl(name);
+  auto* const wanted = dynamic_cast<Kind*>(&control);
+  if (wanted == nullptr) throw Refusal{name + " is not " + kind_word};
+  CheckReach(control);
+  return *wanted;
+}
+
+void Type(Console& console, Words& words) {
+  TextBox& box = Reachable<TextBox>(console, words, "a text box");
+  box.Type(words.Rest());
+}
+
+void Choose(Console& console, Words& words) {
+  ComboBox& combo = Reachable<ComboBox>(console, words, "a combo box");
+  const std::string_view item = words.Rest();
+  const auto& items = combo.Items();
+  if (std::find(items.begin(), items.end(), item) == items.end()) {
+    throw Refusal{combo.FullName() + " has no item " + std::string(item)};
+  }
+  combo.SetText(item);
+}
+
+void BringToFront(Console& console, Words& words) {
+  TabStrip& strip = Reachable<TabStrip>(console, words, "a tab strip");
+  const std::string_view tab = words.Rest();
+  const auto& tabs = strip.Tabs();
+  const auto found = std::find(tabs.begin(), tabs.end(), tab);
+  if (found == tabs.end()) throw Refusal{strip.FullName() + " has no tab " + std::string(tab)};
+  strip.SetFront(static_cast<int>(found - tabs.begin()));
+}
+
+constexpr std::array<Command, 7> kCommands = {{
+    {"click", Click},
+    {"force", Force},
+    {"select", Select},
+    {"dblclick", DoubleClick},
+    {"type", Type},
+    {"choose", Choose},
+    {"tab", BringToFront},
+}};
+
+}  // namespace
+
+std::span<const Command> ActionCommands() { return kCommands; }
+
+}  // namespace frostmark

@@ -1,0 +1,79 @@
+// The message boxes and input boxes of the console.
+#include "console/console_desktop.h"
+
+namespace frostmark {
+namespace {
+
+const char* IconWord(BoxIcon icon) {
+  switch (icon) {
+    case BoxIcon::kStop:
+      return "stop";
+    case BoxIcon::kInformation:
+      return "information";
+    case BoxIcon::kQuestion:
+      return "question";
+    case BoxIcon::kNone:
+      break;
+  }
+  return "none";
+}
+
+const char* ButtonWords(BoxButtons buttons) { return buttons == BoxButtons::kOk ? "ok" : "yes no"; }
+
+// "y", "YES" and the like from a person.
+bool Means(const std::string& text, const std::string& word) {
+  if (text.empty() || text.size() > word.size()) return false;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if ((text[i] | 0x20) != word[i]) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+Answer ConsoleDesktop::ShowBox(const MessageBox& box) {
+  transcript_.Line(std::string("box ") + IconWord(box.icon) + " " + ButtonWords(box.buttons) +
+                   ": " + box.text);
+  if (box.buttons == BoxButtons::kOk) {
+    if (!Answers().empty() && Answers().front() == "ok") {
+      TakeAnswer();
+    } else if (interactive_) {
+      AskPerson("Enter goes on> ");
+    }
+    return Answer::kOk;
+  }
+  if (Answers().empty() && interactive_) return AskPersonBox();
+  const auto answer = TakeAnswer();
+  if (answer == "yes") return Answer::kYes;
+  if (answer == "no") return Answer::kNo;
+  transcript_.Refuse(answer ? "the answer " + *answer + " does not fit the box: " + box.text
+                            : "no answer for the box: " + box.text);
+  return Answer::kNo;
+}
+
+std::string ConsoleDesktop::AskText(const std::string& prompt) {
+  transcript_.Line("ask: " + prompt);
+  if (Answers().empty() && interactive_) return AskPerson("answer (empty cancels)> ").value_or("");
+  const auto answer = TakeAnswer();
+  if (!answer) transcript_.Refuse("no answer for the question: " + prompt);
+  return !answer || answer == "cancel" ? "" : *answer;
+}
+
+std::optional<std::string> ConsoleDesktop::AskPerson(const char* prompt) {
+  transcript_.Prompt(prompt);
+  std::string line;
+  if (source_.ReadLine(line)) return line;
+  transcript_.Line("");
+  return std::nullopt;
+}
+
+Answer ConsoleDesktop::AskPersonBox() {
+  for (;;) {
+    const auto answer = AskPerson("yes or no> ");
+    if (!answer || Means(*answer, "no")) return Answer::kNo;
+    if (Means(*answer, "yes")) return Answer::kYes;
+    transcript_.Refuse("a box is open");
+  }
+}
+
+}  // namespace frostmark

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "console/command_source.h"
+#include "console/console_desktop.h"
+#include "console/console_dice.h"
+#include "console/names.h"
+#include "console/options.h"
+#include "console/prompt.h"
+#include "console/transcript.h"
+#include "shell/program.h"
+
+namespace frostmark {
+
+// The text front end: one game, driven by command lines. Run goes through the whole input; while a
+// procedure of the game waits, commands run on top of its stack, so the frames between a command
+// and the handler that it raises are kept small.
+class Console : private ConsoleDesktop::Commands {
+ public:
+  // TRANSCRIPT and SOURCE outlive the console. INTERACTIVE: a person sits in front of it.
+  Console(const Options& options, Transcript& transcript, CommandSource& source, bool interactive);
+
+  // Returns the exit code: 0, 1 (a command was refused) or 3 (ended by an error of the game).
+  int Run();
+
+  Transcript& transcript;
+  ConsoleDesktop desktop;
+  ConsoleDice dice;
+  Program program;
+  Names names;
+
+ private:
+  void BeforeInput() override;
+  void RunNextCommand() override;
+  void RunLine(const std::string& line) override;
+  void Execute(std::string_view line);
+  void RunCommands();
+
+  CommandSource& source_;
+  std::unique_ptr<Prompt> prompt_;  // in front of a person only
+};
+
+}  // namespace frostmark

@@ -1,0 +1,93 @@
+#include "console/list_drawing.h"
+
+#include <algorithm>
+
+#include "console/hints.h"
+
+namespace frostmark {
+namespace {
+
+constexpr int kMostRows = 22;
+constexpr std::size_t kScreenWidth = 100;
+constexpr std::size_t kGap = 3;
+
+int FirstRow(const ListBox& list) {
+  const int last_start = std::max(0, list.ListCount() - kMostRows);
+  if (list.ListIndex() >= 0) return std::clamp(list.ListIndex() - kMostRows / 2, 0, last_start);
+  return GrowsAtItsEnd(list) ? last_start : 0;
+}
+
+std::size_t BlockWidth(const TextLines& block) {
+  std::size_t width = 0;
+  for (const std::string& line : block) width = std::max(width, WidthOf(line));
+  return width;
+}
+
+void PutRow(const std::vector<TextLines>& blocks, std::size_t first, std::size_t end,
+            TextLines& lines) {
+  std::size_t height = 0;
+  for (std::size_t b = first; b < end; ++b) height = std::max(height, blocks[b].size());
+  for (std::size_t row = 0; row < height; ++row) {
+    std::string line;
+    std::size_t start = 0;
+    for (std::size_t b = first; b < end; ++b) {
+      if (row < blocks[b].size()) {
+        line.append(start - std::min(start, WidthOf(line)), ' ');
+        line += blocks[b][row];
+      }
+      start += BlockWidth(blocks[b]) + kGap;
+    }
+    lines.push_back(std::move(line));
+  }
+}
+
+}  // namespace
+
+std::size_t WidthOf(std::string_view text) {
+  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) {
+    return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;
+  }));
+}
+
+std::string Printable(std::string_view text) {
+  std::string printable(text);
+  for (char& c : printable) {
+    if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F) c = '?';
+  }
+  return printable;
+}
+
+TextLines DrawList(const ListBox& list, const std::string& heading) {
+  TextLines lines = {heading + (list.Enabled() ? "" : " (closed)")};
+  const int first = FirstRow(list);
+  const int end = std::min(list.ListCount(), first + kMostRows);
+  if (first > 0) lines.push_back("     ... " + std::to_string(first) + " before");
+  for (int i = first; i < end; ++i) {
+    const std::string number = std::to_string(i);
+    lines.push_back((i == list.ListIndex() ? " >" : "  ") +
+                    std::string(number.size() < 3 ? 3 - number.size() : 0, ' ') + number + " " +
+                    Printable(list.List(i)));
+  }
+  if (end < list.ListCount()) {
+    lines.push_back("     ... " + std::to_string(list.ListCount() - end) + " more");
+  }
+  if (list.ListCount() == 0) lines.emplace_back("     (empty)");
+  return lines;
+}
+
+TextLines PutSideBySide(const std::vector<TextLines>& blocks) {
+  TextLines lines;
+  std::size_t first = 0;
+  while (first < blocks.size()) {
+    std::size_t end = first + 1;
+    std::size_t width = BlockWidth(blocks[first]);
+    while (end < blocks.size() && width + kGap + BlockWidth(blocks[end]) <= kScreenWidth) {
+      width += kGap + BlockWidth(blocks[end++]);
+    }
+    PutRow(blocks, first, end, lines);
+    first = end;
+  }
+  return lines;
+}
+
+}  // namespace frostmark

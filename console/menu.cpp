@@ -1,0 +1,79 @@
+#include "console/menu.h"
+
+#include "console/drawing.h"
+#include "console/hints.h"
+#include "console/list_drawing.h"
+#include "console/names.h"
+
+namespace frostmark {
+namespace {
+
+using Asks = MenuEntry::Asks;
+
+std::string CalledBy(const Control& control, const std::string& otherwise) {
+  const char* const hint = HintFor(control);
+  std::string words = Printable(hint != nullptr && *hint != '\0' ? hint : otherwise);
+  if (words.ends_with(':')) words.pop_back();
+  return words;
+}
+
+// The label in front of CONTROL if it names it.
+std::string NameInFront(const Screen& screen, const Control& control) {
+  const Control* before = nullptr;
+  for (Control* other : screen.Controls()) {
+    if (other == &control) break;
+    before = other;
+  }
+  if (before != nullptr && before->Kind() == ControlKind::kLabel) {
+    const std::string& caption = static_cast<const Label*>(before)->Caption();
+    if (caption.ends_with(':')) return caption;
+  }
+  return control.Name();
+}
+
+void AddControl(const Screen& screen, Control& control, std::vector<MenuEntry>& menu) {
+  const std::string name = control.FullName();
+  if (const Handler* handler = ClickHandler(control)) {
+    const CaptionedControl* const captioned = AsCaptioned(control);
+    const std::string caption = captioned == nullptr ? control.Name() : captioned->Caption();
+    if (*handler) menu.push_back({CalledBy(control, caption), "click " + name, Asks::kNothing});
+  } else if (const ListBox* list = AsList(control)) {
+    const std::string words = CalledBy(control, NameInFront(screen, control));
+    if (list->ListCount() == 0) return;
+    if (list->OnClick || SelectionCounts(control)) {
+      menu.push_back({words + ": select", "select " + name, Asks::kItem});
+    }
+    if (list->OnDoubleClick) {
+      menu.push_back({words + ": double click", "dblclick " + name, Asks::kItem});
+    }
+  } else if (control.Kind() == ControlKind::kTextBox) {
+    menu.push_back(
+        {CalledBy(control, NameInFront(screen, control)) + ": type", "type " + name, Asks::kText});
+  } else if (control.Kind() == ControlKind::kComboBox) {
+    for (const std::string& item : static_cast<ComboBox&>(control).Items()) {
+      menu.push_back({CalledBy(control, control.Name()) + ": " + item,
+                      "choose " + name + " " + item, Asks::kNothing});
+    }
+  } else if (control.Kind() == ControlKind::kTabStrip) {
+    const auto& strip = static_cast<TabStrip&>(control);
+    for (const std::string& tab : strip.Tabs()) {
+      if (tab != strip.FrontTab()) {
+        menu.push_back({"Tab " + tab, "tab " + name + " " + tab, Asks::kNothing});
+      }
+    }
+  }
+}
+
+}  // namespace
+
+std::vector<MenuEntry> MenuOf(const ScreenList& screens) {
+  std::vector<MenuEntry> menu;
+  for (const Screen* screen : screens.VisibleOnes()) {
+    for (Control* control : screen->Controls()) {
+      if (InSight(*control) && control->Enabled()) AddControl(*screen, *control, menu);
+    }
+  }
+  return menu;
+}
+
+}  // namespace frostmark

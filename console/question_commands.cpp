@@ -1,0 +1,82 @@
+// What prints something and changes nothing.
+#include <array>
+
+#include "console/commands.h"
+#include "console/console.h"
+#include "console/drawing.h"
+#include "console/refusal.h"
+
+namespace frostmark {
+namespace {
+
+void ShowList(Transcript& transcript, const std::string& name, const RecordList& list) {
+  transcript.Line(name + ": " + std::to_string(list.ListCount()) + " items, selected " +
+                  std::to_string(list.ListIndex()));
+  for (int i = 0; i < list.ListCount(); ++i) {
+    transcript.Line(std::to_string(i) + " " + list.List(i));
+  }
+}
+
+void Show(Console& console, Words& words) {
+  const std::string name = words.Next("a name");
+  words.ExpectEnd();
+  const Named named = console.names.Find(name);
+  if (named.scratch != nullptr) {
+    ShowList(console.transcript, name, *named.scratch);
+  } else if (named.control != nullptr && AsList(*named.control) != nullptr) {
+    ShowList(console.transcript, name, *AsList(*named.control));
+  } else if (const auto text = TextOf(named)) {
+    console.transcript.Line(name + ": " + *text);
+  } else {
+    throw Refusal{name + " has no text to show"};
+  }
+}
+
+void State(Console& console, Words& words) {
+  const std::string name = words.Next("a name");
+  words.ExpectEnd();
+  const Named named = console.names.Find(name);
+  if (named.screen == nullptr && named.control == nullptr) {
+    throw Refusal{name + " is no screen and no control"};
+  }
+  const bool visible = named.screen != nullptr ? named.screen->Visible() : named.control->Visible();
+  const bool enabled = named.screen != nullptr || named.control->Enabled();
+  console.transcript.Line(name + (visible ? ": visible" : ": hidden") +
+                          (enabled ? " enabled" : " disabled"));
+}
+
+void Screens(Console& console, Words& words) {
+  words.ExpectEnd();
+  std::string line = "screens:";
+  for (const Screen* screen : console.program.screens.VisibleOnes()) line += " " + screen->Name();
+  console.transcript.Line(line);
+}
+
+void Draw(Console& console, Words& words) {
+  words.ExpectEnd();
+  DrawScreens(console.program.screens, console.transcript);
+}
+
+void Stats(Console& console, Words& words) {
+  words.ExpectEnd();
+  const Ordvik::Counts& counts = console.program.ordvik.counts();
+  console.transcript.Line("stats: rolls " + std::to_string(counts.rolls) + " yields " +
+                          std::to_string(console.desktop.Yields()) + " waits " +
+                          std::to_string(console.desktop.Waits()) + " reads " +
+                          std::to_string(counts.file_reads) + " writes " +
+                          std::to_string(counts.file_writes));
+}
+
+constexpr std::array<Command, 5> kCommands = {{
+    {"show", Show},
+    {"state", State},
+    {"screens", Screens},
+    {"draw", Draw},
+    {"stats", Stats},
+}};
+
+}  // namespace
+
+std::span<const Command> QuestionCommands() { return kCommands; }
+
+}  // namespace frostmark

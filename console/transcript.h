@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace frostmark {
+
+// Everything that the console prints: one fact a line, gathered in memory and written when the
+// console has to wait for somebody or ends. It counts the refusals, which make the exit code.
+class Transcript {
+ public:
+  Transcript() = default;
+  Transcript(const Transcript&) = delete;
+  Transcript& operator=(const Transcript&) = delete;
+  ~Transcript() { Flush(); }
+
+  // Prints TEXT as one line: a line break in it comes out as \n.
+  void Line(std::string_view text);
+  // Prints "refused: REASON" and counts it.
+  void Refuse(std::string_view reason);
+  // Prints TEXT as it stands, for a prompt that somebody answers on the same line.
+  void Prompt(std::string_view text);
+  void Flush();
+
+  bool HasRefused() const { return has_refused_; }
+
+ private:
+  std::string waiting_;
+  bool has_refused_ = false;
+};
+
+}  // namespace frostmark
