@@ -19,7 +19,8 @@ double RatingShare(int rating) {
   return std::clamp((rating - kBarStart) / double{kBarEnd - kBarStart}, 0.0, 1.0);
 }
 
-void PaintRatingBar(QPainter& painter, const QRectF& rect, int rating, bool from_right) {
+void PaintShare(QPainter& painter, const QRectF& rect, double share, const QColor& color,
+                bool from_right) {
   const double radius = rect.height() / 2;
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
@@ -27,12 +28,10 @@ void PaintRatingBar(QPainter& painter, const QRectF& rect, int rating, bool from
   painter.setBrush(QColor(255, 255, 255, 28));
   painter.drawRoundedRect(rect, radius, radius);
 
-  const double share = RatingShare(rating);
   if (share > 0) {
     QRectF filled = rect;
-    filled.setWidth(std::max(rect.height(), rect.width() * share));
+    filled.setWidth(std::max(rect.height(), rect.width() * std::min(share, 1.0)));
     if (from_right) filled.moveRight(rect.right());
-    const QColor color = RatingColor(rating);
     QLinearGradient shine(filled.topLeft(), filled.topRight());
     shine.setColorAt(from_right ? 1 : 0, color.darker(150));
     shine.setColorAt(from_right ? 0 : 1, color);
@@ -40,6 +39,10 @@ void PaintRatingBar(QPainter& painter, const QRectF& rect, int rating, bool from
     painter.drawRoundedRect(filled, radius, radius);
   }
   painter.restore();
+}
+
+void PaintRatingBar(QPainter& painter, const QRectF& rect, int rating, bool from_right) {
+  PaintShare(painter, rect, RatingShare(rating), RatingColor(rating), from_right);
 }
 
 }  // namespace frostmark

@@ -20,8 +20,12 @@ QColor RatingColor(int rating);
 // How much of its bar RATING fills, 0 to 1.
 double RatingShare(int rating);
 
-// Draws the bar of RATING into RECT, filled from its left end or, where two teams face each other,
-// from its right end.
+// Draws a bar into RECT of which SHARE, 0 to 1, is filled with COLOR: from its left end or, where
+// two teams face each other, from its right end.
+void PaintShare(QPainter& painter, const QRectF& rect, double share, const QColor& color,
+                bool from_right = false);
+
+// Draws the bar of RATING.
 void PaintRatingBar(QPainter& painter, const QRectF& rect, int rating, bool from_right = false);
 
 }  // namespace frostmark
