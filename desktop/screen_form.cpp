@@ -4,9 +4,7 @@
 
 namespace frostmark {
 
-ScreenForm::ScreenForm(QWidget* parent) : QWidget(parent) {
-  setAttribute(Qt::WA_StyledBackground);
-}
+ScreenForm::ScreenForm(QWidget* parent) : QWidget(parent) { setAttribute(Qt::WA_StyledBackground); }
 
 void ScreenForm::NoteChange() {
   if (refresh_due_) return;

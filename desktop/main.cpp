@@ -1,0 +1,22 @@
+#include <QApplication>
+#include <QFile>
+
+#include "desktop/qt_desktop.h"
+#include "desktop/style.h"
+#include "records/dice.h"
+#include "shell/program.h"
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  QApplication::setApplicationName("Frostmark");
+  QApplication::setApplicationDisplayName("Frostmark");
+  QApplication::setDesktopFileName("frostmark");
+  frostmark::DressApplication();
+
+  frostmark::QtDesktop desktop;
+  frostmark::ClockDice dice;
+  const QByteArray folder = QFile::encodeName(QApplication::applicationDirPath());
+  frostmark::Program program(desktop, dice, folder.toStdString());
+  desktop.guard().Call([&] { program.Start(); });
+  return QApplication::exec();
+}

@@ -1,0 +1,183 @@
+#include "desktop/qt_desktop.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QTime>
+#include <QTimer>
+#include <QUrl>
+#include <cstdio>
+#include <cstdlib>
+
+#include "desktop/screen_window.h"
+#include "desktop/ticker.h"
+#include "ui/controls.h"
+
+namespace frostmark {
+namespace {
+
+// A yield must cost next to nothing, but reading the clock costs as much as all the rest of it, and
+// asking the toolkit a hundred times more. So only every so many yields look at the clock, and the
+// toolkit is asked no more often than a person can notice.
+constexpr int kYieldsPerClockReading = 16;
+constexpr std::chrono::milliseconds kBetweenEvents{8};
+
+QMessageBox::Icon Shown(BoxIcon icon) {
+  switch (icon) {
+    case BoxIcon::kStop:
+      return QMessageBox::Critical;
+    case BoxIcon::kInformation:
+      return QMessageBox::Information;
+    case BoxIcon::kQuestion:
+      return QMessageBox::Question;
+    case BoxIcon::kNone:
+      break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+}  // namespace
+
+QtDesktop::QtDesktop(std::function<void(int code)> leave)
+    : leave_(std::move(leave)), guard_([this](const std::string& text) { EndByError(text); }) {
+  // A closed message box would count as the last window while all screens are hidden.
+  QApplication::setQuitOnLastWindowClosed(false);
+}
+
+QtDesktop::~QtDesktop() = default;
+
+void QtDesktop::Open(ScreenList& screens) {
+  screens_ = &screens;
+  for (Screen* screen : screens.All()) {
+    screen->SetObserver(this);
+    for (Control* control : screen->Controls()) {
+      if (control->Kind() != ControlKind::kTimer) continue;
+      tickers_.push_back(std::make_unique<Ticker>(static_cast<Timer&>(*control), guard_));
+    }
+  }
+}
+
+void QtDesktop::Yield() {
+  if (yields_left_-- > 0) return;
+  yields_left_ = kYieldsPerClockReading - 1;
+  if (std::chrono::steady_clock::now() < next_events_) return;
+  LetEventsRun();
+}
+
+void QtDesktop::LetEventsRun() {
+  QCoreApplication::processEvents(QEventLoop::AllEvents);
+  next_events_ = std::chrono::steady_clock::now() + kBetweenEvents;
+  StopIfEnded();
+}
+
+void QtDesktop::Wait() {
+  QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+  StopIfEnded();
+}
+
+void QtDesktop::WaitFor(std::chrono::microseconds at_most) {
+  if (at_most <= std::chrono::microseconds::zero()) {
+    LetEventsRun();
+    return;
+  }
+  QTimer alarm;
+  alarm.setTimerType(Qt::PreciseTimer);
+  alarm.setSingleShot(true);
+  alarm.start(std::chrono::ceil<std::chrono::milliseconds>(at_most));
+  Wait();
+}
+
+void QtDesktop::StopIfEnded() const {
+  if (guard_.Ended()) throw ProgramEnded{};
+}
+
+QWidget* QtDesktop::FrontWindow() const {
+  const std::vector<Screen*> visible = screens_->VisibleOnes();
+  for (auto screen = visible.rbegin(); screen != visible.rend(); ++screen) {
+    if (!(*screen)->Minimized()) return Window(**screen);
+  }
+  return nullptr;
+}
+
+Answer QtDesktop::ShowBox(const MessageBox& box) {
+  QMessageBox shown(FrontWindow());
+  shown.setIcon(Shown(box.icon));
+  shown.setTextFormat(Qt::PlainText);
+  shown.setText(QString::fromStdString(box.text));
+  const bool asks = box.buttons == BoxButtons::kYesNo;
+  if (asks) {
+    shown.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    shown.setEscapeButton(QMessageBox::No);  // closing the box is a No as well
+    shown.setDefaultButton(QMessageBox::No);
+  }
+  const bool yes = shown.exec() == QMessageBox::Yes;
+  StopIfEnded();
+  if (!asks) return Answer::kOk;
+  return yes ? Answer::kYes : Answer::kNo;
+}
+
+std::string QtDesktop::AskText(const std::string& prompt) {
+  QInputDialog dialog(FrontWindow());
+  dialog.setLabelText(QString::fromStdString(prompt));
+  const bool accepted = dialog.exec() == QDialog::Accepted;
+  StopIfEnded();
+  return accepted ? dialog.textValue().toStdString() : std::string();
+}
+
+void QtDesktop::OpenWebPage(const std::string& address) {
+  QDesktopServices::openUrl(QUrl(QString::fromStdString(address)));
+}
+
+std::chrono::microseconds QtDesktop::SinceMidnight() {
+  return std::chrono::milliseconds(QTime::currentTime().msecsSinceStartOfDay());
+}
+
+void QtDesktop::EndProgram() {
+  guard_.SetEnded();
+  for (QWidget* window : QApplication::topLevelWidgets()) window->hide();
+  leave_(EXIT_SUCCESS);
+  throw ProgramEnded{};
+}
+
+void QtDesktop::EndByError(const std::string& text) {
+  QMessageBox box(QMessageBox::Critical, QString(), QString::fromStdString(text), QMessageBox::Ok,
+                  screens_ == nullptr ? nullptr : FrontWindow());
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
+  for (QWidget* window : QApplication::topLevelWidgets()) window->hide();
+  leave_(EXIT_FAILURE);
+}
+
+void QtDesktop::LeaveProcess(int code) {
+  // The event loops and the game's procedures on the stack are left as they are: nothing may go on
+  // after the end, and no file is open outside a single operation.
+  std::fflush(nullptr);
+  std::_Exit(code);
+}
+
+void QtDesktop::ScreenChanged(Screen& screen) {
+  auto window = windows_.find(&screen);
+  if (window == windows_.end()) {
+    if (!screen.Visible()) return;
+    auto made = std::make_unique<ScreenWindow>(screen, guard_, [this] { EndProgram(); });
+    window = windows_.emplace(&screen, std::move(made)).first;
+  }
+  window->second->Follow(Centre());
+  if (screen.Visible()) last_shown_ = window->second.get();
+}
+
+QPoint QtDesktop::Centre() const {
+  return last_shown_ == nullptr ? QPoint() : last_shown_->geometry().center();
+}
+
+void QtDesktop::DragRequested(Screen& screen) {
+  if (ScreenWindow* window = Window(screen)) window->StartDrag();
+}
+
+ScreenWindow* QtDesktop::Window(const Screen& screen) const {
+  const auto window = windows_.find(&screen);
+  return window == windows_.end() ? nullptr : window->second.get();
+}
+
+}  // namespace frostmark

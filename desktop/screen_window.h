@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QPoint>
+#include <QWidget>
+#include <memory>
+
+#include "desktop/binder.h"
+
+namespace frostmark {
+
+class Guard;
+class Screen;
+class ScreenForm;
+
+// The window of one screen. A screen without a frame gets round corners and a shadow of its own and
+// is moved by the window system when the game asks for it; any other keeps the system's title bar.
+class ScreenWindow : public QWidget {
+  Q_OBJECT
+
+ public:
+  // CLOSE_PROGRAM is what closing the window of a main screen comes to.
+  ScreenWindow(Screen& screen, Guard& guard, std::function<void()> close_program);
+  ~ScreenWindow() override;
+
+  // Brings the window to the screen's present state. Newly shown it stands over CENTRE, a point of
+  // the desktop, unless that is null.
+  void Follow(QPoint centre);
+
+  // Moves the window with the mouse, whose button is down on it, until the button is let go.
+  void StartDrag();
+
+  ScreenForm& form() const { return *form_; }
+
+ protected:
+  void changeEvent(QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void MakeFrameless();
+  void Drag(const QMouseEvent& move);
+  void EndDrag();
+
+  Screen& screen_;
+  Guard& guard_;
+  std::function<void()> close_program_;
+  ScreenForm* form_;
+  std::unique_ptr<Binder> binder_;
+  bool has_shadow_ = false;
+  bool dragging_ = false;
+  bool moving_itself_ = false;  // where the window system does not move windows for us
+  QPoint drag_start_;
+  QPoint drag_origin_;
+};
+
+}  // namespace frostmark

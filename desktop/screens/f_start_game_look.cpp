@@ -1,0 +1,7 @@
+#include "desktop/decorations.h"
+
+namespace frostmark {
+
+void DecorateFStartGame(FStartGame& /*screen*/, ScreenForm& /*form*/) {}
+
+}  // namespace frostmark

@@ -1,0 +1,7 @@
+#include "desktop/decorations.h"
+
+namespace frostmark {
+
+void DecorateGame(Game& /*screen*/, ScreenForm& /*form*/) {}
+
+}  // namespace frostmark

@@ -1,0 +1,7 @@
+#include "desktop/decorations.h"
+
+namespace frostmark {
+
+void DecorateStartup(Startup& /*screen*/, ScreenForm& /*form*/) {}
+
+}  // namespace frostmark

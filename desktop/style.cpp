@@ -1,0 +1,82 @@
+#include "desktop/style.h"
+
+#include <QApplication>
+#include <QColor>
+#include <QFile>
+#include <QPalette>
+#include <QStyleFactory>
+#include <utility>
+
+#include "desktop/fonts.h"
+#include "desktop/palette.h"
+
+namespace frostmark {
+namespace {
+
+constexpr std::pair<const char*, QRgb> kColours[] = {
+    {"deep", palette::kDeep},   {"night", palette::kNight},
+    {"panel", palette::kPanel}, {"raised", palette::kRaised},
+    {"edge", palette::kEdge},   {"ice", palette::kIce},
+    {"frost", palette::kFrost}, {"faint", palette::kFaint},
+    {"blue", palette::kBlue},   {"blueBright", palette::kBlueBright},
+    {"red", palette::kRed},     {"redBright", palette::kRedBright},
+    {"gold", palette::kGold},   {"green", palette::kGreen},
+};
+
+// The name that begins at AT in TEXT: as many letters as there are.
+QString NameAt(const QString& text, qsizetype at) {
+  qsizetype end = at;
+  while (end < text.size() && text[end].isLetter()) ++end;
+  return text.mid(at, end - at);
+}
+
+QString ColourCalled(const QString& name) {
+  for (const auto& [known, colour] : kColours) {
+    if (name == QLatin1String(known)) return QColor(colour).name();
+  }
+  qFatal("The style sheet names a colour that the palette does not have: %s", qPrintable(name));
+  return {};
+}
+
+QPalette Colours() {
+  QPalette colours(QColor(palette::kRaised), QColor(palette::kNight));
+  colours.setColor(QPalette::Base, QColor(palette::kDeep));
+  colours.setColor(QPalette::AlternateBase, QColor(palette::kPanel));
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
+                          QPalette::BrightText, QPalette::ToolTipText}) {
+    colours.setColor(role, QColor(palette::kIce));
+    colours.setColor(QPalette::Disabled, role, QColor(palette::kFaint));
+  }
+  colours.setColor(QPalette::PlaceholderText, QColor(palette::kFrost));
+  colours.setColor(QPalette::Highlight, QColor(palette::kBlue));
+  colours.setColor(QPalette::HighlightedText, Qt::white);
+  colours.setColor(QPalette::Link, QColor(palette::kBlueBright));
+  colours.setColor(QPalette::ToolTipBase, QColor(palette::kPanel));
+  return colours;
+}
+
+}  // namespace
+
+QString StyleSheet() {
+  QFile file(":/style/frostmark.qss");
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  const QString text = QString::fromUtf8(file.readAll());
+  QString sheet;
+  qsizetype done = 0;
+  for (qsizetype at = text.indexOf('@'); at >= 0; at = text.indexOf('@', done)) {
+    const QString name = NameAt(text, at + 1);
+    sheet += QStringView(text).mid(done, at - done);
+    sheet += ColourCalled(name);
+    done = at + 1 + name.size();
+  }
+  return sheet + text.mid(done);
+}
+
+void DressApplication() {
+  QApplication::setStyle(QStyleFactory::create("Fusion"));
+  QApplication::setPalette(Colours());
+  UseShippedFonts();
+  qApp->setStyleSheet(StyleSheet());
+}
+
+}  // namespace frostmark
