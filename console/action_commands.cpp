@@ -94,7 +94,18 @@ void BringToFront(Console& console, Words& words) {
   strip.SetFront(static_cast<int>(found - tabs.begin()));
 }
 
-constexpr std::array<Command, 7> kCommands = {{
+// What the close button of a window comes to.
+void Close(Console& console, Words& words) {
+  const std::string name = words.Next("a screen");
+  words.ExpectEnd();
+  Screen* const screen = console.names.Find(name).screen;
+  if (screen == nullptr) throw Refusal{name + " is no screen"};
+  if (!screen->Visible()) throw Refusal{name + " is hidden"};
+  if (screen->on_close() == Screen::OnClose::kHides) screen->Hide();
+  if (screen->on_close() == Screen::OnClose::kEndsProgram) console.desktop.EndProgram();
+}
+
+constexpr std::array<Command, 8> kCommands = {{
     {"click", Click},
     {"force", Force},
     {"select", Select},
@@ -102,6 +113,7 @@ constexpr std::array<Command, 7> kCommands = {{
     {"type", Type},
     {"choose", Choose},
     {"tab", BringToFront},
+    {"close", Close},
 }};
 
 }  // namespace

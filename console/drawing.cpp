@@ -13,6 +13,11 @@ constexpr std::size_t kLineWidth = 78;
 constexpr int kBarWidth = 40;
 constexpr std::size_t kShortValue = 3;
 
+bool LeftOut(const Control& control) {
+  const char* const hint = HintFor(control);
+  return hint != nullptr && *hint == '\0';
+}
+
 // Draws the controls of one screen in the order in which they are declared, which is the order in
 // which they are read. A label that ends in a colon waits for what it names; short values gather on
 // one line, neighbouring lists beside one another.
@@ -57,7 +62,7 @@ class ScreenDrawing {
 };
 
 void ScreenDrawing::DrawTitle(const Screen& screen) {
-  std::string title = "== " + screen.Caption() + (screen.Minimized() ? " (minimized) " : " ");
+  std::string title = "== " + TitleFor(screen) + (screen.Minimized() ? " (minimized) " : " ");
   title.append(kLineWidth - std::min(kLineWidth, WidthOf(title)), '=');
   transcript_.Line(title);
 }
@@ -94,8 +99,7 @@ void ScreenDrawing::DrawControl(Control& control) {
 void ScreenDrawing::DrawLabel(const Label& label) {
   const std::string& caption = label.Caption();
   const char* const hint = HintFor(label);
-  const bool left_out = hint != nullptr && *hint == '\0';
-  if (left_out || label.OnClick) return;  // what can be clicked is offered below the screens
+  if (LeftOut(label) || label.OnClick) return;  // what can be clicked is offered below the screens
   if (caption.ends_with(':')) {
     if (!name_.empty()) DrawValue("");
     name_ = caption;
@@ -108,7 +112,7 @@ void ScreenDrawing::DrawLabel(const Label& label) {
 
 void ScreenDrawing::DrawValue(const std::string& value) {
   std::string line = name_.empty() ? Printable(value) : name_ + " " + Printable(value);
-  const bool is_short = !name_.empty() && value.size() <= kShortValue;
+  const bool is_short = !name_.empty() && !value.empty() && value.size() <= kShortValue;
   name_.clear();
   if (!is_short || values_.size() + line.size() > kLineWidth) FlushValues();
   if (!is_short) return transcript_.Line("  " + line);
@@ -140,6 +144,7 @@ void ScreenDrawing::AddButton(const Button& button) {
 }
 
 void ScreenDrawing::AddList(const ListBox& list) {
+  if (LeftOut(list)) return;
   FlushValues();
   lists_.push_back(DrawList(list, Heading(list)));
 }

@@ -22,8 +22,8 @@ const Hints kHints = {
     {"TeamCreator.Label6", "Defense"},
     {"TeamCreator.Label7", "Overall"},
     {"TeamCreator.List1", "Roster:"},
-    {"TeamCreator.List2", "Given names:"},
-    {"TeamCreator.List3", "Family names:"},
+    {"TeamCreator.List2", ""},
+    {"TeamCreator.List3", ""},
     {"TeamCreator.Combo1", "Rank"},
     {"FStartGame.Label1", ""},
     {"FStartGame.List3", "Your league:"},
@@ -85,6 +85,10 @@ const Hints kHints = {
 const char* HintFor(const Control& control) {
   const auto found = kHints.find(control.FullName());
   return found == kHints.end() ? nullptr : found->second;
+}
+
+const std::string& TitleFor(const Screen& screen) {
+  return screen.Name() == "Game" ? screen.Name() : screen.Caption();
 }
 
 bool GrowsAtItsEnd(const Control& list) { return list.FullName() == "FDraft.Events"; }

@@ -72,6 +72,9 @@ std::vector<MenuEntry> MenuOf(const ScreenList& screens) {
     for (Control* control : screen->Controls()) {
       if (InSight(*control) && control->Enabled()) AddControl(*screen, *control, menu);
     }
+    if (screen->border() == Screen::Border::kTitleBar) {
+      menu.push_back({"Close " + screen->Caption(), "close " + screen->Name(), Asks::kNothing});
+    }
   }
   return menu;
 }
