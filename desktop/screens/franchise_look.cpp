@@ -7,8 +7,8 @@
 #include "desktop/delegates/player_delegate.h"
 #include "desktop/delegates/team_delegate.h"
 #include "desktop/list_view.h"
-#include "desktop/own_team.h"
 #include "desktop/screen_form.h"
+#include "desktop/screens/own_team.h"
 #include "desktop/widgets/room.h"
 #include "shell/franchise.h"
 

@@ -1,4 +1,4 @@
-#include "desktop/own_team.h"
+#include "desktop/screens/own_team.h"
 
 #include <QColor>
 #include <QLabel>
