@@ -62,6 +62,9 @@ class ReferenceGame {
   void BuildLeague();
   void GenTeam();
 
+  // Files (reference_game.cpp). A file that is not there throws EndlessLoad.
+  void LoadPlayerFile(Lines& list, const std::string& path);
+
   // Saving (reference_saving.cpp).
   void SaveGame();
   void PressLoad();
@@ -115,7 +118,6 @@ class ReferenceGame {
   void Tell(const std::string& box) { boxes.push_back(box); }
   bool Asked(const std::string& box);
   std::string AskedText(const std::string& prompt);
-  void LoadPlayerFile(Lines& list, const std::string& path);
   void LoadSettingsList(Lines& list, const std::string& name);
   std::string RolledName(const std::string& asked_by);
 

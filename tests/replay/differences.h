@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+#include "shell/program.h"
+#include "tests/reference/reference_game.h"
+
+namespace frostmark::replay {
+
+// The first difference between PROGRAM and REFERENCE in words, or "".
+std::string FirstDifference(Program& program, const reference::ReferenceGame& reference);
+
+// The first difference between the files under APP_PATH and those of REFERENCE, or "".
+std::string FirstFileDifference(const std::string& app_path,
+                                const reference::ReferenceGame& reference);
+
+}  // namespace frostmark::replay

@@ -1,0 +1,85 @@
+#include <gtest/gtest.h>
+
+#include "tests/replay/replay.h"
+#include "tests/replay/rosters.h"
+
+// Drafts of the program beside the reference, on rosters of all kinds.
+
+namespace frostmark::replay {
+
+namespace {
+
+class DraftReplay : public testing::TestWithParam<std::uint64_t> {
+ protected:
+  DraftReplay() : whim(GetParam()), replay(GetParam()) {}
+
+  // Puts a world of TEAMS teams a league into the folder; the user's is in the league OWN.
+  void PutWorld(int teams, int own, int fewest, int most) {
+    for (int rank = 0; rank < kRankCount; ++rank) {
+      for (int team = 0; team < teams; ++team) {
+        const std::string name =
+            std::string(1, static_cast<char>('A' + team)) + " of " + std::to_string(rank);
+        replay.PutTeam(kRanks.at(static_cast<std::size_t>(rank)), name,
+                       OddRoster(whim, fewest, most));
+      }
+    }
+    const std::string own_team = "B of " + std::to_string(own);
+    const char* const own_rank = kRanks.at(static_cast<std::size_t>(own));
+    replay.program().franchise.TeamName.SetCaption(own_team);
+    replay.program().franchise.MyRank.SetCaption(own_rank);
+    replay.reference().captions["Franchise.TeamName"] = own_team;
+    replay.reference().captions["Franchise.MyRank"] = own_rank;
+  }
+
+  Whim whim;
+  Replay replay;
+};
+
+TEST_P(DraftReplay, ElevenOfAnyKind) {
+  PutWorld(6, Between(whim, 0, 5), 11, 11);
+  DoDraft(replay);
+  DoNewSeason(replay);
+  DoDraft(replay);
+  replay.Run();
+}
+
+// Rosters that are short take more from the pool than it holds in some years: the program then
+// ends.
+TEST_P(DraftReplay, ShortAndLongRosters) {
+  PutWorld(4, Between(whim, 0, 5), 8, 14);
+  DoDraft(replay);
+  DoNewSeason(replay);
+  replay.Run();
+}
+
+TEST_P(DraftReplay, RostersTooShortForTheRule) {
+  PutWorld(2, Between(whim, 0, 5), 5, 11);
+  DoDraft(replay);
+  replay.Run();
+}
+
+TEST_P(DraftReplay, AddDrafteeToAnyList) {
+  for (int round = 0; round < 60 && !replay.Over(); ++round) {
+    const reference::Lines positions = {"GO", "LD", "RD", "LF", "CF", "RF", "XX", "Go"};
+    const std::string record =
+        AnyPlayer(whim, reference::ItemOf(positions, Between(whim, 0, 7)), "Y");
+    replay.Do(
+        "AddDraftee",
+        [record](Program& program) {
+          std::string given = record;
+          program.f_draft.AddDraftee(given);
+          EXPECT_EQ(given, "");
+        },
+        [record](reference::ReferenceGame& rules) {
+          std::string given = record;
+          rules.AddDraftee(given);
+        });
+    replay.Run();
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, DraftReplay, testing::Range<std::uint64_t>(1, 13));
+
+}  // namespace
+
+}  // namespace frostmark::replay

@@ -1,0 +1,199 @@
+#include "tests/replay/replay.h"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <filesystem>
+#include <fstream>
+
+#include "records/runtime_error.h"
+#include "tests/replay/differences.h"
+#include "world/name_lists.h"
+
+namespace frostmark::replay {
+
+namespace {
+
+std::string FreshFolder() {
+  static std::atomic<int> number = 0;
+  const auto folder = std::filesystem::temp_directory_path() /
+                      ("replay-" + std::to_string(getpid()) + "-" + std::to_string(++number));
+  std::filesystem::remove_all(folder);
+  std::filesystem::create_directories(folder / "Settings");
+  for (const char* rank : kRanks) std::filesystem::create_directories(folder / "Teams" / rank);
+  return folder.string();
+}
+
+reference::Lines LinesOf(std::span<const char* const> names) {
+  return {names.begin(), names.end()};
+}
+
+}  // namespace
+
+Replay::Replay(std::uint64_t seed)
+    : seed_(seed), app_path_(FreshFolder()), dice_(seed), desktop_(seed) {
+  Restart();
+}
+
+Replay::~Replay() {
+  program_.reset();
+  std::error_code ignored;
+  std::filesystem::remove_all(app_path_, ignored);
+}
+
+void Replay::Restart() {
+  program_.reset();
+  program_ = std::make_unique<Program>(desktop_, dice_, app_path_);
+  desktop_.Play(*program_);
+  program_->Start();
+  auto fresh = std::make_unique<reference::ReferenceGame>(app_path_, LinesOf(GivenNames()),
+                                                          LinesOf(FamilyNames()));
+  if (reference_ != nullptr) fresh->shelf = reference_->shelf;
+  reference_ = std::move(fresh);
+}
+
+void Replay::PutTeam(const std::string& rank, const std::string& team,
+                     const reference::Lines& roster) {
+  const std::string path = reference_->TeamPath(rank, team);
+  reference_->shelf.WriteLines(path, roster);
+  std::ofstream(path, std::ios::binary) << reference_->shelf.files[path];
+}
+
+void Replay::Do(const std::string& what, InProgram in_program, InReference in_reference) {
+  desktop_.Then([this, in_program] {
+    if (over_) return;
+    try {
+      in_program(*program_);
+    } catch (const RuntimeError& error) {
+      fatal_ = error.what();
+    }
+  });
+  desktop_.Then([this, what, in_reference] {
+    if (!over_) Follow(what, in_reference);
+  });
+}
+
+void Replay::Answer(const std::string& answer) {
+  desktop_.Then([this, answer] {
+    desktop_.QueueAnswer(answer);
+    reference_->answers.push_back(answer);
+  });
+}
+
+void Replay::Follow(const std::string& what, const InReference& in_reference) {
+  reference_->rolls.Append(dice_.Take());
+  reference_->boxes.clear();
+  std::swap(reference_->releases, desktop_.releases);
+  std::swap(reference_->picks, desktop_.picks);
+  try {
+    const bool rules_end = RulesEndToo(in_reference);
+    if (rules_end && !fatal_) Fail(what, "the rules end the program, and it goes on");
+    if (!rules_end && fatal_) Fail(what, "the program ends: " + *fatal_);
+    Compare(what);
+    if (rules_end) over_ = true;
+  } catch (const reference::Divergence& divergence) {
+    Fail(what, divergence.what);
+  }
+}
+
+bool Replay::RulesEndToo(const InReference& in_reference) {
+  try {
+    in_reference(*reference_);
+    return false;
+  } catch (const reference::Fatal&) {
+    return true;
+  }
+}
+
+void Replay::Compare(const std::string& what) {
+  if (reference_->rolls.Left() > 0) {
+    Fail(what, "the game made " + std::to_string(reference_->rolls.Left()) + " rolls too many");
+  }
+  const reference::Lines told = desktop_.TakeBoxes();
+  if (told != reference_->boxes) {
+    Fail(what, "the boxes of the program:\n  " + reference::JoinWith(told, '\n') +
+                   "\nand of the reference:\n  " + reference::JoinWith(reference_->boxes, '\n'));
+  }
+  const std::string difference = FirstDifference(*program_, *reference_);
+  if (!difference.empty()) Fail(what, difference);
+  const std::string file_difference = FirstFileDifference(app_path_, *reference_);
+  if (!file_difference.empty()) Fail(what, file_difference);
+}
+
+void Replay::Fail(const std::string& what, const std::string& difference) {
+  over_ = true;
+  ADD_FAILURE() << "seed " << seed_ << ", after " << what << ":\n" << difference;
+}
+
+void DoNew(Replay& replay) {
+  replay.Do(
+      "New",
+      [](Program& program) {
+        if (!program.startup.HighButton4.Visible()) Raise(program.startup.HighButton2.OnClick);
+        Raise(program.startup.HighButton4.OnClick);
+      },
+      [](reference::ReferenceGame& rules) { rules.PressNew(); });
+}
+
+void DoGenerate(Replay& replay) {
+  replay.Do(
+      "Generate", [](Program& program) { Raise(program.startup.HighButton7.OnClick); },
+      [](reference::ReferenceGame& rules) { rules.PressGenerate(); });
+}
+
+void DoCreateTeam(Replay& replay, const std::string& city, const std::string& nickname) {
+  replay.Do(
+      "the panel's Begin",
+      [city, nickname](Program& program) {
+        program.startup.Text1.Type(city);
+        program.startup.Text2.Type(nickname);
+        Raise(program.startup.HighButton6.OnClick);
+      },
+      [city, nickname](reference::ReferenceGame& rules) {
+        rules.PressBeginOfPanel(city, nickname);
+      });
+}
+
+void DoBegin(Replay& replay) {
+  replay.Do(
+      "Begin", [](Program& program) { Raise(program.franchise.HighButton1.OnClick); },
+      [](reference::ReferenceGame& rules) { rules.PressBegin(); });
+}
+
+void DoSim(Replay& replay, const std::string& until) {
+  replay.Answer(until);
+  replay.Do(
+      "Sim until " + until, [](Program& program) { Raise(program.franchise.Command2.OnClick); },
+      [](reference::ReferenceGame& rules) { rules.PressSim(); });
+}
+
+void DoSave(Replay& replay) {
+  replay.Do(
+      "Save", [](Program& program) { Raise(program.franchise.HighButton3.OnClick); },
+      [](reference::ReferenceGame& rules) { rules.SaveGame(); });
+}
+
+void DoLoad(Replay& replay) {
+  replay.Do(
+      "Load",
+      [](Program& program) {
+        Raise(program.startup.HighButton2.OnClick);
+        Raise(program.startup.HighButton5.OnClick);
+      },
+      [](reference::ReferenceGame& rules) { rules.PressLoad(); });
+}
+
+void DoDraft(Replay& replay) {
+  replay.Do(
+      "Draft", [](Program& program) { Raise(program.f_results.Command1.OnClick); },
+      [](reference::ReferenceGame& rules) { rules.PressDraft(); });
+}
+
+void DoNewSeason(Replay& replay) {
+  replay.Do(
+      "New Season", [](Program& program) { Raise(program.f_draft.Command1.OnClick); },
+      [](reference::ReferenceGame& rules) { rules.PressNewSeason(); });
+}
+
+}  // namespace frostmark::replay

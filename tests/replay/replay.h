@@ -1,0 +1,76 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "shell/program.h"
+#include "tests/reference/reference_game.h"
+#include "tests/replay/replay_desktop.h"
+#include "tests/replay/tracing_dice.h"
+
+namespace frostmark::replay {
+
+// One program in a fresh folder beside the reference. Each thing that the user does is done in the
+// program, then in the reference with the same rolls; then everything that both know must be equal:
+// files, lists, captions, variables, boxes.
+class Replay {
+ public:
+  explicit Replay(std::uint64_t seed);
+  ~Replay();
+  Replay(const Replay&) = delete;
+  Replay& operator=(const Replay&) = delete;
+
+  using InProgram = std::function<void(Program&)>;
+  using InReference = std::function<void(reference::ReferenceGame&)>;
+
+  // Queues a doing of the user, called WHAT in messages, and the comparison behind it.
+  void Do(const std::string& what, InProgram in_program, InReference in_reference);
+  // Queues an answer to a box, for both.
+  void Answer(const std::string& answer);
+  // Does all that is queued.
+  void Run() { desktop_.RunSteps(); }
+  // Puts a team's file into the folder and before the reference.
+  void PutTeam(const std::string& rank, const std::string& team, const reference::Lines& roster);
+  // Ends the program and starts it anew on the same files, with the same reference files.
+  void Restart();
+
+  Program& program() { return *program_; }
+  reference::ReferenceGame& reference() { return *reference_; }
+  ReplayDesktop& desktop() { return desktop_; }
+  TracingDice& dice() { return dice_; }
+  const std::string& AppPath() const { return app_path_; }
+  // Whether a comparison has failed, or the program has ended by an error as the rules want it.
+  // What is queued is then passed over.
+  bool Over() const { return over_; }
+
+ private:
+  void Follow(const std::string& what, const InReference& in_reference);
+  bool RulesEndToo(const InReference& in_reference);
+  void Compare(const std::string& what);
+  void Fail(const std::string& what, const std::string& difference);
+
+  std::uint64_t seed_;
+  std::string app_path_;
+  TracingDice dice_;
+  ReplayDesktop desktop_;
+  std::unique_ptr<Program> program_;
+  std::unique_ptr<reference::ReferenceGame> reference_;
+  std::optional<std::string> fatal_;
+  bool over_ = false;
+};
+
+// What a user does from day to day.
+void DoNew(Replay& replay);
+void DoGenerate(Replay& replay);
+void DoCreateTeam(Replay& replay, const std::string& city, const std::string& nickname);
+void DoBegin(Replay& replay);
+void DoSim(Replay& replay, const std::string& until);
+void DoSave(Replay& replay);
+void DoLoad(Replay& replay);
+void DoDraft(Replay& replay);
+void DoNewSeason(Replay& replay);
+
+}  // namespace frostmark::replay

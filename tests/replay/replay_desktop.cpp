@@ -1,0 +1,93 @@
+#include "tests/replay/replay_desktop.h"
+
+#include <stdexcept>
+#include <utility>
+
+#include "shell/program.h"
+
+namespace frostmark::replay {
+
+namespace {
+
+std::string Told(const MessageBox& box) {
+  const char* icon = "none";
+  if (box.icon == BoxIcon::kStop) icon = "stop";
+  if (box.icon == BoxIcon::kInformation) icon = "information";
+  if (box.icon == BoxIcon::kQuestion) icon = "question";
+  const char* buttons = box.buttons == BoxButtons::kOk ? " ok: " : " yes no: ";
+  return icon + std::string(buttons) + box.text;
+}
+
+// Thrown by the last step to leave presses that never come back.
+struct StepsDone {};
+
+}  // namespace
+
+void ReplayDesktop::RunSteps() {
+  try {
+    while (!steps_.empty()) RunOneStep();
+  } catch (const StepsDone&) {
+  }
+}
+
+void ReplayDesktop::RunOneStep() {
+  if (steps_.empty()) throw StepsDone();
+  const Action step = std::move(steps_.front());
+  steps_.pop_front();
+  step();
+}
+
+void ReplayDesktop::Wait() {
+  if (WatchGame() || TakeDraftTurn()) return;
+  RunOneStep();
+}
+
+bool ReplayDesktop::WatchGame() {
+  Game& game = program_->game;
+  if (!game.FranchiseMatch) return false;
+  if (game.HighButton1.OnView()) {
+    Raise(game.HighButton1.OnClick);
+  } else if (game.HighButton2.OnView()) {
+    Raise(game.HighButton2.OnClick);
+  } else {
+    HeadlessDesktop::Wait();
+  }
+  return true;
+}
+
+bool ReplayDesktop::TakeDraftTurn() {
+  FDraft& draft = program_->f_draft;
+  if (!draft.AwaitingPick) return false;
+  if (program_->f_select_draft.Visible()) {
+    releases.push_back(DoubleClickSomewhere(program_->f_select_draft.List1));
+    return true;
+  }
+  for (ListPair* pool : draft.Pool()) {
+    if (!(*pool)[0].Enabled()) continue;
+    picks.push_back(DoubleClickSomewhere((*pool)[0]));
+    return true;
+  }
+  throw std::logic_error("the draft waits for the user and opens no list");
+}
+
+reference::DraftChoice ReplayDesktop::DoubleClickSomewhere(ListBox& list) {
+  const reference::DraftChoice choice = {
+      static_cast<int>(whim_() % static_cast<unsigned>(list.ListCount())), whim_() % 4 != 0};
+  QueueAnswer(choice.sure ? "yes" : "no");
+  list.DoubleClick(choice.index);
+  return choice;
+}
+
+Answer ReplayDesktop::ShowBox(const MessageBox& box) {
+  told_.push_back(Told(box));
+  return HeadlessDesktop::ShowBox(box);
+}
+
+std::string ReplayDesktop::AskText(const std::string& prompt) {
+  told_.push_back("ask: " + prompt);
+  return HeadlessDesktop::AskText(prompt);
+}
+
+reference::Lines ReplayDesktop::TakeBoxes() { return std::exchange(told_, {}); }
+
+}  // namespace frostmark::replay

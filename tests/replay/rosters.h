@@ -1,0 +1,29 @@
+#pragma once
+
+#include <random>
+#include <string>
+
+#include "records/record_list.h"
+#include "tests/reference/text_records.h"
+
+namespace frostmark::replay {
+
+using Whim = std::mt19937_64;
+
+// A whole number from FROM to TO.
+int Between(Whim& whim, int from, int to);
+
+// A player as the years may leave him: skills from 60 to 99, age from 18 to 45.
+std::string AnyPlayer(Whim& whim, const std::string& position, const std::string& training);
+
+// A proper roster of eleven: lead line and training line, in roster order.
+reference::Lines ProperRoster(Whim& whim);
+
+// A roster that a user or an editor may leave: shuffled, a few players more, fewer or elsewhere.
+reference::Lines OddRoster(Whim& whim, int fewest, int most);
+
+// Makes LIST hold LINES.
+void Fill(RecordList& list, const reference::Lines& lines);
+reference::Lines LinesOf(const RecordList& list);
+
+}  // namespace frostmark::replay
