@@ -1,6 +1,6 @@
 #include <algorithm>
-#include <array>
 #include <cmath>
+#include <vector>
 
 #include "records/hockey_naming.h"
 #include "records/player_record.h"
@@ -10,15 +10,20 @@ namespace {
 
 constexpr double kBestSkill = 99;
 
-using Parts = std::array<std::string, kFieldCount>;
+// At least nine; a record with a quoted field that holds a comma has more, and keeps them.
+using Parts = std::vector<std::string>;
 
 std::string& Part(Parts& parts, Field field) { return parts[static_cast<std::size_t>(field)]; }
 
 Parts Split(std::string_view record) {
   Parts parts;
-  for (std::size_t i = 0; i < parts.size(); ++i) {
-    parts[i] = FieldView(record, static_cast<int>(i));
+  parts.reserve(kFieldCount);
+  for (std::size_t start = 0; start <= record.size();) {
+    const std::size_t end = std::min(record.find(',', start), record.size());
+    parts.emplace_back(record.substr(start, end - start));
+    start = end + 1;
   }
+  if (parts.size() < kFieldCount) parts.resize(kFieldCount);
   return parts;
 }
 
