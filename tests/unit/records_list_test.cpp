@@ -7,12 +7,142 @@
 namespace frostmark::testing {
 namespace {
 
+// Writes down what it is told.
+class Listener : public RecordList::Observer {
+ public:
+  void ItemInserted(int index) override { Note("inserted", index); }
+  void ItemRemoved(int index) override { Note("removed", index); }
+  void ItemChanged(int index) override { Note("changed", index); }
+  void Cleared() override { notes.emplace_back("cleared"); }
+  void SelectionChanged() override { notes.emplace_back("selection"); }
+
+  Lines notes;
+
+ private:
+  void Note(const std::string& what, int index) {
+    notes.push_back(what + " " + std::to_string(index));
+  }
+};
+
+TEST(RecordListTest, StartsEmptyWithNothingSelected) {
+  const RecordList list;
+  EXPECT_EQ(list.ListCount(), 0);
+  EXPECT_EQ(list.ListIndex(), -1);
+}
+
 TEST(RecordListTest, ReadingBeyondTheEndsGivesTheEmptyText) {
   RecordList list;
   list.AddItem("only");
   EXPECT_EQ(list.List(1), "");
   EXPECT_EQ(list.List(-1), "");
   EXPECT_EQ(list.List(30000), "");
+}
+
+TEST(RecordListTest, AddsAtTheEndAndKeepsDuplicatesAndOrder) {
+  RecordList list;
+  for (const char* item : {"b", "a", "b"}) list.AddItem(item);
+  EXPECT_EQ(ItemsOf(list), (Lines{"b", "a", "b"}));
+}
+
+TEST(RecordListTest, InsertsBeforeAnIndex) {
+  RecordList list;
+  FillList(list, {"one", "two"});
+  list.AddItem("top", 0);
+  list.AddItem("end", 3);
+  list.AddItem("middle", 2);
+  EXPECT_EQ(ItemsOf(list), (Lines{"top", "one", "middle", "two", "end"}));
+}
+
+TEST(RecordListTest, InsertsACopyOfItsOwnItem) {
+  RecordList list;
+  FillList(list, {"one", "two", "three"});
+  list.AddItem(list.List(2), 0);
+  EXPECT_EQ(ItemsOf(list), (Lines{"three", "one", "two", "three"}));
+}
+
+TEST(RecordListTest, RemovalMovesLaterItemsUp) {
+  RecordList list;
+  FillList(list, {"a", "b", "c"});
+  list.RemoveItem(1);
+  EXPECT_EQ(ItemsOf(list), (Lines{"a", "c"}));
+  EXPECT_EQ(list.List(2), "");
+}
+
+TEST(RecordListTest, WritesInPlace) {
+  RecordList list;
+  FillList(list, {"a", "b"});
+  list.SetList(1, "B");
+  EXPECT_EQ(ItemsOf(list), (Lines{"a", "B"}));
+}
+
+TEST(RecordListTest, WritingInsertingAndRemovingOutsideAreErrors) {
+  RecordList list;
+  list.AddItem("a");
+  EXPECT_THROW(list.SetList(1, "x"), RuntimeError);
+  EXPECT_THROW(list.SetList(-1, "x"), RuntimeError);
+  EXPECT_THROW(list.RemoveItem(1), RuntimeError);
+  EXPECT_THROW(list.RemoveItem(-1), RuntimeError);
+  EXPECT_THROW(list.AddItem("x", 2), RuntimeError);
+  EXPECT_THROW(list.AddItem("x", -1), RuntimeError);
+  EXPECT_THROW(list.SetListIndex(1), RuntimeError);
+  EXPECT_THROW(list.SetListIndex(-2), RuntimeError);
+  EXPECT_EQ(ItemsOf(list), (Lines{"a"}));
+}
+
+TEST(RecordListTest, ClearRemovesItemsAndSelection) {
+  RecordList list;
+  FillList(list, {"a", "b"});
+  list.SetListIndex(1);
+  list.Clear();
+  EXPECT_EQ(list.ListCount(), 0);
+  EXPECT_EQ(list.ListIndex(), -1);
+  EXPECT_EQ(list.List(0), "");
+  list.AddItem("c");
+  EXPECT_EQ(ItemsOf(list), (Lines{"c"}));
+}
+
+TEST(RecordListTest, SelectionFollowsItsItemAndGoesWithIt) {
+  RecordList list;
+  FillList(list, {"a", "b", "c"});
+  list.SetListIndex(1);
+  list.AddItem("top", 0);
+  EXPECT_EQ(list.ListIndex(), 2);
+  list.RemoveItem(0);
+  EXPECT_EQ(list.ListIndex(), 1);
+  list.RemoveItem(2);
+  EXPECT_EQ(list.ListIndex(), 1);
+  list.RemoveItem(1);
+  EXPECT_EQ(list.ListIndex(), -1);
+}
+
+TEST(RecordListTest, AFullListStaysAsItIs) {
+  RecordList list;
+  for (int i = 0; i < RecordList::kMostItems; ++i) list.AddItem(std::to_string(i));
+  ASSERT_EQ(list.ListCount(), 32767);
+  list.AddItem("one too many");
+  list.AddItem("one too many", 0);
+  EXPECT_EQ(list.ListCount(), 32767);
+  EXPECT_EQ(list.List(0), "0");
+  EXPECT_EQ(list.List(32766), "32766");
+  list.RemoveItem(0);
+  list.AddItem("fits again");
+  EXPECT_EQ(list.List(32766), "fits again");
+}
+
+TEST(RecordListTest, TellsItsObserverOfEveryChange) {
+  RecordList list;
+  Listener listener;
+  list.SetObserver(&listener);
+  list.AddItem("a");
+  list.AddItem("b", 0);
+  list.SetList(1, "c");
+  list.SetListIndex(1);
+  list.SetListIndex(1);
+  list.RemoveItem(0);
+  list.Clear();
+  list.Clear();
+  EXPECT_EQ(listener.notes,
+            (Lines{"inserted 0", "inserted 0", "changed 1", "selection", "removed 0", "cleared"}));
 }
 
 }  // namespace

@@ -1,2 +1,9 @@
 set(shell_tests
-  records_list_test.cpp)
+  records_bad_input_test.cpp
+  records_chance_test.cpp
+  records_fields_test.cpp
+  records_files_test.cpp
+  records_list_test.cpp
+  records_numbers_test.cpp
+  records_ratings_test.cpp
+  records_settings_test.cpp)
