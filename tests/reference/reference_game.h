@@ -2,6 +2,7 @@
 
 #include <array>
 #include <deque>
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -92,6 +93,10 @@ class ReferenceGame {
   void PressStart();
   void TickOfPeriod(int period);
   void PressCloseOfGame();
+  void Abandon();
+  // What the user does while a franchise game waits for him: he plays it to its end.
+  std::function<void(ReferenceGame&)> watch = [](ReferenceGame& rules) { rules.WatchToTheEnd(); };
+  void WatchToTheEnd();
   bool franchise_match = false;
   // By the number of the period, from 1: its steps so far, and whether its timer runs.
   std::array<int, 4> period_steps = {};

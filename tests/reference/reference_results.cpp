@@ -48,11 +48,7 @@ void ReferenceGame::WatchGame(const std::string& name1, const std::string& name2
   captions["Franchise.OppOverall"] = "";
   captions["Franchise.OppOffense"] = "";
   captions["Franchise.OppDefense"] = "";
-  for (int period = 1; period <= 3; ++period) {
-    PressStart();
-    while (timer_runs.at(static_cast<std::size_t>(period))) TickOfPeriod(period);
-  }
-  PressCloseOfGame();
+  watch(*this);
 }
 
 void ReferenceGame::ShowOwnResult(const std::string& name1, const std::string& name2) {

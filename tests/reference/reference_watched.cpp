@@ -91,4 +91,27 @@ void ReferenceGame::PressCloseOfGame() {
   franchise_match = false;
 }
 
+void ReferenceGame::WatchToTheEnd() {
+  for (int period = 1; period <= 3; ++period) {
+    PressStart();
+    while (timer_runs.at(static_cast<std::size_t>(period))) TickOfPeriod(period);
+  }
+  PressCloseOfGame();
+}
+
+void ReferenceGame::Abandon() {
+  timer_runs = {};
+  captions["Game.GVisitor"] = "";
+  captions["Game.GHome"] = "";
+  watched.goals_home = "";
+  watched.goals_visitor = "";
+  watched.line_list.clear();
+  watched.def_list.clear();
+  watched.events.clear();
+  lists["Game.Line1"].clear();
+  lists["Game.Line2"].clear();
+  watched.line1_stats.clear();
+  watched.line2_stats.clear();
+}
+
 }  // namespace frostmark::reference

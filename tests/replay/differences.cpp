@@ -25,7 +25,9 @@ std::string Both(const std::string& what, const std::string& in_program,
 
 // A roster whose load never ends goes on filling behind the press that waits for it.
 bool IsEndlessTail(const std::string& name, const ListBox& list, int from) {
-  if (name != "Franchise.tempList") return false;
+  if (name != "Franchise.tempList" && name != "Franchise.Team1" && name != "Franchise.Team2") {
+    return false;
+  }
   for (int i = from; i < list.ListCount(); ++i) {
     if (list.List(i) != ",,,,,,,,") return false;
   }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "tests/replay/doings.h"
 #include "tests/replay/replay.h"
 #include "tests/replay/rosters.h"
 

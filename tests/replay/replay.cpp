@@ -84,6 +84,9 @@ void Replay::Answer(const std::string& answer) {
 void Replay::Follow(const std::string& what, const InReference& in_reference) {
   reference_->rolls.Append(dice_.Take());
   reference_->boxes.clear();
+  for (; !desktop_.own_answers.empty(); desktop_.own_answers.pop_front()) {
+    reference_->answers.push_back(desktop_.own_answers.front());
+  }
   std::swap(reference_->releases, desktop_.releases);
   std::swap(reference_->picks, desktop_.picks);
   try {
@@ -124,76 +127,6 @@ void Replay::Compare(const std::string& what) {
 void Replay::Fail(const std::string& what, const std::string& difference) {
   over_ = true;
   ADD_FAILURE() << "seed " << seed_ << ", after " << what << ":\n" << difference;
-}
-
-void DoNew(Replay& replay) {
-  replay.Do(
-      "New",
-      [](Program& program) {
-        if (!program.startup.HighButton4.Visible()) Raise(program.startup.HighButton2.OnClick);
-        Raise(program.startup.HighButton4.OnClick);
-      },
-      [](reference::ReferenceGame& rules) { rules.PressNew(); });
-}
-
-void DoGenerate(Replay& replay) {
-  replay.Do(
-      "Generate", [](Program& program) { Raise(program.startup.HighButton7.OnClick); },
-      [](reference::ReferenceGame& rules) { rules.PressGenerate(); });
-}
-
-void DoCreateTeam(Replay& replay, const std::string& city, const std::string& nickname) {
-  replay.Do(
-      "the panel's Begin",
-      [city, nickname](Program& program) {
-        program.startup.Text1.Type(city);
-        program.startup.Text2.Type(nickname);
-        Raise(program.startup.HighButton6.OnClick);
-      },
-      [city, nickname](reference::ReferenceGame& rules) {
-        rules.PressBeginOfPanel(city, nickname);
-      });
-}
-
-void DoBegin(Replay& replay) {
-  replay.Do(
-      "Begin", [](Program& program) { Raise(program.franchise.HighButton1.OnClick); },
-      [](reference::ReferenceGame& rules) { rules.PressBegin(); });
-}
-
-void DoSim(Replay& replay, const std::string& until) {
-  replay.Answer(until);
-  replay.Do(
-      "Sim until " + until, [](Program& program) { Raise(program.franchise.Command2.OnClick); },
-      [](reference::ReferenceGame& rules) { rules.PressSim(); });
-}
-
-void DoSave(Replay& replay) {
-  replay.Do(
-      "Save", [](Program& program) { Raise(program.franchise.HighButton3.OnClick); },
-      [](reference::ReferenceGame& rules) { rules.SaveGame(); });
-}
-
-void DoLoad(Replay& replay) {
-  replay.Do(
-      "Load",
-      [](Program& program) {
-        Raise(program.startup.HighButton2.OnClick);
-        Raise(program.startup.HighButton5.OnClick);
-      },
-      [](reference::ReferenceGame& rules) { rules.PressLoad(); });
-}
-
-void DoDraft(Replay& replay) {
-  replay.Do(
-      "Draft", [](Program& program) { Raise(program.f_results.Command1.OnClick); },
-      [](reference::ReferenceGame& rules) { rules.PressDraft(); });
-}
-
-void DoNewSeason(Replay& replay) {
-  replay.Do(
-      "New Season", [](Program& program) { Raise(program.f_draft.Command1.OnClick); },
-      [](reference::ReferenceGame& rules) { rules.PressNewSeason(); });
 }
 
 }  // namespace frostmark::replay

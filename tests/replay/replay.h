@@ -62,15 +62,4 @@ class Replay {
   bool over_ = false;
 };
 
-// What a user does from day to day.
-void DoNew(Replay& replay);
-void DoGenerate(Replay& replay);
-void DoCreateTeam(Replay& replay, const std::string& city, const std::string& nickname);
-void DoBegin(Replay& replay);
-void DoSim(Replay& replay, const std::string& until);
-void DoSave(Replay& replay);
-void DoLoad(Replay& replay);
-void DoDraft(Replay& replay);
-void DoNewSeason(Replay& replay);
-
 }  // namespace frostmark::replay

@@ -45,7 +45,9 @@ void ReplayDesktop::Wait() {
 bool ReplayDesktop::WatchGame() {
   Game& game = program_->game;
   if (!game.FranchiseMatch) return false;
-  if (game.HighButton1.OnView()) {
+  if (instead_of_watching) {
+    instead_of_watching();
+  } else if (game.HighButton1.OnView()) {
     Raise(game.HighButton1.OnClick);
   } else if (game.HighButton2.OnView()) {
     Raise(game.HighButton2.OnClick);
@@ -80,6 +82,11 @@ reference::DraftChoice ReplayDesktop::DoubleClickSomewhere(ListBox& list) {
 
 Answer ReplayDesktop::ShowBox(const MessageBox& box) {
   told_.push_back(Told(box));
+  const bool about_line_up = box.text.starts_with("You have too many players");
+  if (about_line_up && LeftOverAnswers() == 0) {
+    QueueAnswer("no");
+    own_answers.push_back("no");
+  }
   return HeadlessDesktop::ShowBox(box);
 }
 

@@ -35,6 +35,11 @@ class ReplayDesktop : public HeadlessDesktop {
   // All boxes and questions since the last call: "stop ok: You are missing a position!".
   reference::Lines TakeBoxes();
 
+  // While it is set, the user does this instead of watching a franchise game.
+  Action instead_of_watching;
+
+  // What the user answered of his own accord since the test last emptied it.
+  std::deque<std::string> own_answers;
   // What the user chose in the draft since the test last emptied them.
   std::deque<reference::DraftChoice> releases;
   std::deque<reference::DraftChoice> picks;

@@ -1,0 +1,158 @@
+#include <gtest/gtest.h>
+
+#include "tests/replay/doings.h"
+#include "tests/replay/replay.h"
+
+// What users do against the grain, beside the reference.
+
+namespace frostmark::replay {
+
+namespace {
+
+class TroubleReplay : public testing::TestWithParam<std::uint64_t> {
+ protected:
+  TroubleReplay() : replay(GetParam()) {
+    DoNew(replay);
+    DoGenerate(replay);
+  }
+
+  // A team of the league RANK once the world is built.
+  std::string TeamOf(const std::string& rank, int i) {
+    return reference::ItemOf(replay.reference().shelf.List(replay.AppPath() + "/Teams/" + rank), i);
+  }
+
+  Replay replay;
+};
+
+TEST_P(TroubleReplay, ANameWithinAnotherName) {
+  replay.Run();
+  // Without its last letter the name still fits all lines and paths of the other team.
+  const std::string other = TeamOf("Rank F", 2);
+  const std::size_t blank = other.find(' ');
+  DoCreateTeam(replay, other.substr(0, blank), other.substr(blank + 1, other.size() - blank - 2));
+  DoSim(replay, "10");
+  DoBegin(replay);
+  DoBegin(replay);
+  replay.Run();
+}
+
+TEST_P(TroubleReplay, ANameThatIsALeague) {
+  DoCreateTeam(replay, "Rank", "E");
+  DoSim(replay, "10");
+  DoBegin(replay);
+  DoBegin(replay);
+  DoDraft(replay);
+  DoNewSeason(replay);
+  DoSim(replay, "3");
+  replay.Run();
+}
+
+// The league then has five teams: its first game without an opponent never begins, and when the
+// season is cut short there is no last team to name.
+TEST_P(TroubleReplay, ANameThatIsTaken) {
+  replay.Run();
+  const std::string other = TeamOf("Rank F", 0);
+  const std::size_t blank = other.find(' ');
+  DoCreateTeam(replay, other.substr(0, blank), other.substr(blank + 1));
+  if (GetParam() % 2 == 0) DoTesting(replay);
+  DoBegin(replay);
+  replay.Run();
+}
+
+TEST_P(TroubleReplay, SimThroughTheOffSeasonAndOn) {
+  DoCreateTeam(replay, "Montreal", "Breeze");
+  DoSim(replay, "11");
+  DoDraft(replay);
+  DoNewSeason(replay);
+  DoMendLineUp(replay);
+  DoSim(replay, "1e1");
+  DoSim(replay, "20");
+  replay.Run();
+}
+
+TEST_P(TroubleReplay, SimAnswers) {
+  DoCreateTeam(replay, "Montreal", "Breeze");
+  for (const char* answer : {"", "x", "1", "-3", "1.9", "3.9", "3", "3.5"}) DoSim(replay, answer);
+  DoTesting(replay);
+  replay.Do(
+      "Sim at the off-season", [](Program& program) { Raise(program.franchise.Command2.OnClick); },
+      [](reference::ReferenceGame& rules) { rules.PressSim(); });
+  replay.Run();
+}
+
+// A second franchise in one run stands on the lists of the first.
+TEST_P(TroubleReplay, TwoFranchisesInOneRun) {
+  DoCreateTeam(replay, "Montreal", "Breeze");
+  DoSim(replay, "3");
+  replay.Answer("no");
+  DoNew(replay);
+  replay.Answer("yes");
+  DoNew(replay);
+  DoGenerate(replay);
+  DoCreateTeam(replay, "Quebec", "Snow");
+  DoSim(replay, "3");
+  DoSave(replay);
+  DoLoad(replay);
+  DoLoad(replay);
+  DoBegin(replay);
+  replay.Run();
+}
+
+TEST_P(TroubleReplay, ALineUpWithoutItsCentre) {
+  DoCreateTeam(replay, "Montreal", "Breeze");
+  replay.Do(
+      "the centre's way to training",
+      [](Program& program) {
+        program.franchise.MainRoster.Select(4);
+        Raise(program.franchise.Command3.OnClick);
+      },
+      [](reference::ReferenceGame& rules) { rules.PressToTraining(4); });
+  DoBegin(replay);
+  DoSim(replay, "4");
+  DoMendLineUp(replay);
+  DoSim(replay, "4");
+  replay.Run();
+}
+
+void SetUpAgainstItself(Program& program) {
+  FStartGame& screen = program.f_start_game;
+  Raise(program.startup.HighButton1.OnClick);
+  screen.List3.Select(3);
+  screen.File1.Select(1);
+  screen.List4.Select(3);
+  screen.File2.Select(1);
+  Raise(screen.HighButton1.OnClick);
+}
+
+// The game that waits for its end goes on at once with the scores of the one before.
+TEST_P(TroubleReplay, AFranchiseGameLeftForASingleGame) {
+  DoCreateTeam(replay, "Montreal", "Breeze");
+  DoSim(replay, "2");
+  replay.Run();
+  const std::string team = TeamOf("Rank C", 1);
+  replay.desktop().instead_of_watching = [this] {
+    Program& program = replay.program();
+    Raise(program.game.HighButton1.OnClick);
+    replay.desktop().PassTime(std::chrono::milliseconds(100 * 50));
+    Raise(program.game.Label5.OnClick);
+    EXPECT_TRUE(program.game.FranchiseMatch);
+    SetUpAgainstItself(program);
+  };
+  replay.reference().watch = [team](reference::ReferenceGame& rules) {
+    rules.PressStart();
+    for (int tick = 0; tick < 50; ++tick) rules.TickOfPeriod(1);
+    rules.Abandon();
+    reference::Lines roster;
+    rules.LoadPlayerFile(roster, rules.TeamPath("Rank C", team));
+    rules.franchise_match = false;
+    rules.SetUpMatch(roster, team, roster, team);
+  };
+  DoBegin(replay);
+  replay.Run();
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, TroubleReplay, testing::Values(1, 2, 3));
+
+}  // namespace
+
+}  // namespace frostmark::replay
