@@ -21,13 +21,9 @@ void RecordList::SetList(int i, std::string_view item) {
   if (observer_ != nullptr) observer_->ItemChanged(i);
 }
 
-void RecordList::AddItem(std::string_view item) {
+void RecordList::Grow(std::string_view item) {
   if (count_ == kMostItems) return;
-  if (static_cast<std::size_t>(count_) < items_.size()) {
-    items_[static_cast<std::size_t>(count_)].assign(item);
-  } else {
-    items_.emplace_back(item);
-  }
+  items_.emplace_back(item);
   ++count_;
   if (observer_ != nullptr) observer_->ItemInserted(count_ - 1);
 }
@@ -54,13 +50,6 @@ void RecordList::RemoveItem(int i) {
     --selected_;
   }
   if (observer_ != nullptr) observer_->ItemRemoved(i);
-}
-
-void RecordList::Clear() {
-  if (count_ == 0) return;
-  count_ = 0;
-  selected_ = -1;
-  if (observer_ != nullptr) observer_->Cleared();
 }
 
 void RecordList::SetListIndex(int i) {

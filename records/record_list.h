@@ -45,7 +45,12 @@ class RecordList {
   void SetList(int i, std::string_view item);
 
   // Appends ITEM.
-  void AddItem(std::string_view item);
+  void AddItem(std::string_view item) {
+    // The match engines refill their lists at every step, so the way into spare memory is short.
+    if (static_cast<std::size_t>(count_) >= items_.size()) return Grow(item);
+    items_[static_cast<std::size_t>(count_++)].assign(item);
+    if (observer_ != nullptr) observer_->ItemInserted(count_ - 1);
+  }
 
   // Inserts ITEM before INDEX (0 to ListCount). Throws RuntimeError for any other INDEX.
   void AddItem(std::string_view item, int index);
@@ -55,7 +60,12 @@ class RecordList {
   void RemoveItem(int i);
 
   // Removes all items and the selection.
-  void Clear();
+  void Clear() {
+    if (count_ == 0) return;
+    count_ = 0;
+    selected_ = -1;
+    if (observer_ != nullptr) observer_->Cleared();
+  }
 
   // The selected item, -1 when none is. It follows its item when others come or go in front of it.
   int ListIndex() const { return selected_; }
@@ -67,6 +77,8 @@ class RecordList {
 
  private:
   static const std::string kNoItem;
+
+  void Grow(std::string_view item);
 
   std::vector<std::string> items_;  // the first count_ are the list, the rest is spare memory
   int count_ = 0;

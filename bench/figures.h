@@ -1,0 +1,17 @@
+#pragma once
+
+namespace frostmark {
+
+// The benchmarks whose arguments are known only at run time.
+void RegisterWeekBenchmarks();
+
+// Prints how often a league's band makes the build roll a team anew.
+void PrintTriesPerLeague();
+
+// Plays a hundred seasons of ten weeks and prints whether time and memory stay flat.
+void PrintHundredSeasons();
+
+// Prints what giving way and waiting cost on the desktop, and a week in its windows.
+void PrintDesktopFigures(int argc, char** argv);
+
+}  // namespace frostmark

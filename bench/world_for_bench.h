@@ -1,0 +1,35 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "records/dice.h"
+#include "shell/program.h"
+#include "ui/headless_desktop.h"
+
+namespace frostmark {
+
+// A game in a temporary folder of its own, with the user's team in "Rank F" and its first week
+// ahead.
+class WorldForBench {
+ public:
+  WorldForBench();
+  ~WorldForBench();
+  WorldForBench(const WorldForBench&) = delete;
+  WorldForBench& operator=(const WorldForBench&) = delete;
+
+  const std::string& Folder() const { return folder_; }
+  HeadlessDesktop& desktop() { return desktop_; }
+  Program& program() { return *program_; }
+
+  // Plays the games of one week, whatever it is, without watching any.
+  void PlayOneWeek();
+
+ private:
+  std::string folder_;
+  HeadlessDesktop desktop_;
+  ClockDice dice_;
+  std::unique_ptr<Program> program_;
+};
+
+}  // namespace frostmark
