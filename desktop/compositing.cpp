@@ -18,8 +18,9 @@ struct FreeReply {
 }  // namespace
 
 bool DesktopIsComposited() {
+  if (QGuiApplication::platformName() != "xcb") return true;
   const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-  if (x11 == nullptr) return true;
+  if (x11 == nullptr || x11->connection() == nullptr) return true;
   // By agreement among X programs the compositor of the first screen owns this selection.
   static constexpr char kCompositor[] = "_NET_WM_CM_S0";
   xcb_connection_t* connection = x11->connection();

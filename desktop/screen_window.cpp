@@ -132,9 +132,11 @@ void ScreenWindow::keyPressEvent(QKeyEvent* event) {
 
 void ScreenWindow::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
-  guard_.Call([this] {
-    if (screen_.OnMouseDown) screen_.OnMouseDown();
-  });
+  if (screen_.OnMouseDown) {
+    guard_.Call([this] { screen_.OnMouseDown(); });
+  } else if (screen_.border() == Screen::Border::kNone) {
+    StartDrag();  // nothing else on such a window could move it
+  }
 }
 
 void ScreenWindow::StartDrag() {

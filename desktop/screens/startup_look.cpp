@@ -1,7 +1,54 @@
+#include <QAbstractButton>
+#include <QGroupBox>
+#include <QStyle>
+
 #include "desktop/decorations.h"
+#include "desktop/delegates/player_delegate.h"
+#include "desktop/list_view.h"
+#include "desktop/screen_form.h"
+#include "desktop/widgets/pin.h"
+#include "desktop/widgets/room.h"
+#include "shell/startup.h"
 
 namespace frostmark {
+namespace {
 
-void DecorateStartup(Startup& /*screen*/, ScreenForm& /*form*/) {}
+void KeepPlaceWhenHidden(QWidget& widget) {
+  QSizePolicy policy = widget.sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  widget.setSizePolicy(policy);
+}
+
+void SetRole(QWidget& widget, const char* role) {
+  if (widget.property("role") == role) return;
+  widget.setProperty("role", role);
+  widget.style()->unpolish(&widget);
+  widget.style()->polish(&widget);
+}
+
+void ShowPlayers(ListView& list, int rows) {
+  list.setItemDelegate(new PlayerDelegate(&list));
+  list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  GiveRoom(list, 34, rows);
+}
+
+}  // namespace
+
+void DecorateStartup(Startup& screen, ScreenForm& form) {
+  KeepPlaceWhenHidden(Part<QWidget>(form, "HighButton4"));
+  KeepPlaceWhenHidden(Part<QWidget>(form, "HighButton5"));
+  ShowPlayers(Part<ListView>(form, "List1"), 6);
+  ShowPlayers(Part<ListView>(form, "List2"), 6);
+  new Pin(Part<QWidget>(form, "Label3"), Qt::AlignTop | Qt::AlignRight, {0, 8, 8, 0});
+  new Pin(Part<QWidget>(form, "Label12"), Qt::AlignLeft | Qt::AlignVCenter);
+
+  // While the panel is open the way on is its own button.
+  auto& franchise = Part<QAbstractButton>(form, "HighButton2");
+  const auto follow = [&screen, &franchise] {
+    SetRole(franchise, screen.Frame1.Visible() ? "big" : "bigprimary");
+  };
+  follow();
+  QObject::connect(&form, &ScreenForm::Refreshed, &form, follow);
+}
 
 }  // namespace frostmark

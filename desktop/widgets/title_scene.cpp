@@ -1,0 +1,236 @@
+#include "desktop/widgets/title_scene.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <array>
+
+#include "desktop/fonts.h"
+#include "desktop/palette.h"
+
+namespace frostmark {
+namespace {
+
+constexpr double kHorizon = 0.46;  // of the height: where the ice meets the boards
+constexpr int kCorner = 13;        // just inside the window's own edge
+
+QColor Glass(QRgb colour, int alpha) {
+  QColor glass(colour);
+  glass.setAlpha(alpha);
+  return glass;
+}
+
+// Points on the ice. ACROSS runs from -1 (left boards) to 1; DEPTH from 0 (at our feet) to 1 (the
+// far boards).
+class Perspective {
+ public:
+  explicit Perspective(const QRectF& area) : area_(area) {}
+
+  QPointF At(double across, double depth) const {
+    const double nearness = 1 / (1 + 3.4 * depth);
+    const double horizon = area_.top() + area_.height() * kHorizon;
+    const double fall = (nearness - 1 / 4.4) / (1 - 1 / 4.4);  // 1 at our feet, 0 at the boards
+    return {area_.center().x() + area_.width() * (0.17 + across * nearness * 1.25),
+            horizon + fall * (area_.bottom() - horizon)};
+  }
+
+ private:
+  QRectF area_;
+};
+
+void DrawNight(QPainter& painter, const QRectF& area) {
+  QLinearGradient night(area.topLeft(), area.bottomLeft());
+  night.setColorAt(0, QColor(palette::kDeep));
+  night.setColorAt(kHorizon, QColor(0x1B, 0x45, 0x83));
+  painter.fillRect(area, night);
+}
+
+// The floodlights: cones of light from under the roof.
+void DrawLights(QPainter& painter, const QRectF& area) {
+  painter.setPen(Qt::NoPen);
+  const double floor = area.top() + area.height() * (kHorizon + 0.1);
+  for (const double at : {0.42, 0.62, 0.82, 1.02}) {
+    const QPointF lamp(area.left() + area.width() * at, area.top() - area.height() * 0.02);
+    QLinearGradient fade(lamp, QPointF(lamp.x(), floor));
+    fade.setColorAt(0, Glass(palette::kIce, 62));
+    fade.setColorAt(1, Glass(palette::kIce, 0));
+    painter.setBrush(fade);
+    const double lean = (at - 0.72) * area.width() * 0.3;
+    const double half = area.width() * 0.13;
+    painter.drawPolygon(QPolygonF(
+        {lamp, QPointF(lamp.x() + lean - half, floor), QPointF(lamp.x() + lean + half, floor)}));
+    QRadialGradient glare(lamp, area.height() * 0.12);
+    glare.setColorAt(0, Glass(0xFFFFFFFF, 150));
+    glare.setColorAt(1, Glass(0xFFFFFFFF, 0));
+    painter.setBrush(glare);
+    painter.drawEllipse(lamp, area.height() * 0.12, area.height() * 0.12);
+  }
+}
+
+// The crowd: rows of heads on the far stand, a little uneven, every time the same.
+void DrawCrowd(QPainter& painter, const QRectF& area) {
+  constexpr std::array<QRgb, 5> kCoats = {0xFF22406E, 0xFF2D548C, 0xFF183259, 0xFF7E3347,
+                                          0xFF50709D};
+  const double size = area.height() * 0.0145;
+  const double horizon = area.top() + area.height() * (kHorizon - 0.035);
+  unsigned int noise = 7;
+  painter.setPen(Qt::NoPen);
+  for (int row = 6; row >= 0; --row) {
+    const double y = horizon - row * size * 1.5;
+    for (double x = area.left() - size; x < area.right() + size; x += size * 1.75) {
+      noise = noise * 1103515245U + 12345U;
+      QColor coat(kCoats[(noise >> 16U) % kCoats.size()]);
+      coat.setAlpha(210 - row * 24);
+      painter.setBrush(coat);
+      const double nudge = size * 0.5 * ((noise >> 20U) % 8U) / 8.0;
+      painter.drawEllipse(QPointF(x + nudge + (row % 2) * size * 0.9, y - nudge), size * 0.8, size);
+    }
+  }
+}
+
+// A line across the whole ice, between two depths.
+QPolygonF LineAcross(const Perspective& ice, double near, double far) {
+  return QPolygonF({ice.At(-3, near), ice.At(3, near), ice.At(3, far), ice.At(-3, far)});
+}
+
+QPainterPath Ring(const Perspective& ice, double across, double depth, double radius) {
+  QPainterPath ring;
+  constexpr int kSteps = 72;
+  for (int i = 0; i <= kSteps; ++i) {
+    const double angle = i * 2 * 3.14159265358979 / kSteps;
+    const QPointF point =
+        ice.At(across + std::cos(angle) * radius, depth + std::sin(angle) * radius * 0.32);
+    if (i == 0) {
+      ring.moveTo(point);
+    } else {
+      ring.lineTo(point);
+    }
+  }
+  return ring;
+}
+
+void DrawIce(QPainter& painter, const QRectF& area) {
+  const double horizon = area.top() + area.height() * kHorizon;
+  QLinearGradient shine(QPointF(0, horizon), area.bottomLeft());
+  shine.setColorAt(0, QColor(0xBF, 0xD8, 0xEE));
+  shine.setColorAt(0.35, QColor(palette::kIce));
+  shine.setColorAt(1, QColor(0x9F, 0xC0, 0xE0));
+  painter.fillRect(QRectF(area.left(), horizon, area.width(), area.bottom() - horizon), shine);
+
+  const Perspective ice(area);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(Glass(palette::kBlue, 200));
+  painter.drawPolygon(LineAcross(ice, 0.62, 0.68));
+  painter.setBrush(Glass(palette::kRed, 215));
+  painter.drawPolygon(LineAcross(ice, 0.235, 0.262));
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(Glass(palette::kBlue, 215), area.height() * 0.011));
+  painter.drawPath(Ring(ice, 0, 0.25, 0.3));
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(palette::kBlue));
+  painter.drawPath(Ring(ice, 0, 0.25, 0.022));
+}
+
+void DrawBoards(QPainter& painter, const QRectF& area) {
+  const double horizon = area.top() + area.height() * kHorizon;
+  const double height = area.height() * 0.034;
+  painter.fillRect(QRectF(area.left(), horizon - height, area.width(), height),
+                   QColor(0xF7, 0xFA, 0xFD));
+  painter.fillRect(QRectF(area.left(), horizon - height, area.width(), height * 0.2),
+                   QColor(palette::kRed));
+  painter.fillRect(QRectF(area.left(), horizon - height * 0.25, area.width(), height * 0.25),
+                   QColor(palette::kGold));
+}
+
+// The puck on the centre spot with its shadow.
+void DrawPuck(QPainter& painter, const QRectF& area) {
+  const QPointF at = Perspective(area).At(0.14, 0.1);
+  const double r = area.height() * 0.062;
+  const double high = r * 0.42;
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(10, 24, 48, 80));
+  painter.drawEllipse(QPointF(at.x() + r * 0.25, at.y() + r * 0.16), r * 1.15, r * 0.42);
+  QPainterPath side;
+  side.moveTo(at.x() - r, at.y() - high);
+  side.arcTo(QRectF(at.x() - r, at.y() - r * 0.4, 2 * r, r * 0.8), 180, 180);
+  side.lineTo(at.x() + r, at.y() - high);
+  side.closeSubpath();
+  QLinearGradient rubber(QPointF(at.x() - r, 0), QPointF(at.x() + r, 0));
+  rubber.setColorAt(0, QColor(0x10, 0x18, 0x26));
+  rubber.setColorAt(0.35, QColor(0x44, 0x52, 0x68));
+  rubber.setColorAt(1, QColor(0x08, 0x0D, 0x16));
+  painter.setBrush(rubber);
+  painter.drawPath(side);
+  const QPointF top(at.x(), at.y() - high);
+  painter.setBrush(QColor(0x24, 0x30, 0x43));
+  painter.drawEllipse(top, r, r * 0.4);
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(QColor(0x8F, 0xA6, 0xC4), r * 0.05));
+  painter.drawEllipse(top, r * 0.66, r * 0.26);
+}
+
+// The name of the game, in ice with a blue and a red line under it.
+void DrawName(QPainter& painter, const QRectF& area) {
+  UsePosterFonts();
+  QFont face("Arial Black");
+  face.setPixelSize(static_cast<int>(area.height() * 0.125));
+  face.setLetterSpacing(QFont::PercentageSpacing, 102);
+  QPainterPath name;
+  name.addText(0, 0, face, "FROSTMARK");
+  const QRectF bounds = name.boundingRect();
+  const double margin = area.height() * 0.07;
+  name.translate(area.left() + margin - bounds.left(), area.top() + margin - bounds.top());
+  const QRectF at = name.boundingRect();
+
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(2, 8, 20, 120));
+  painter.drawPath(name.translated(area.height() * 0.006, area.height() * 0.009));
+  QLinearGradient frozen(at.topLeft(), at.bottomLeft());
+  frozen.setColorAt(0, Qt::white);
+  frozen.setColorAt(0.52, QColor(0xDD, 0xEE, 0xFB));
+  frozen.setColorAt(0.53, QColor(0xA9, 0xCD, 0xEF));
+  frozen.setColorAt(1, QColor(0xE9, 0xF5, 0xFF));
+  painter.setBrush(frozen);
+  painter.drawPath(name);
+
+  const double line = area.height() * 0.011;
+  const QRectF under(at.left(), at.bottom() + line * 1.9, at.width(), line);
+  painter.fillRect(under, QColor(palette::kBlue));
+  painter.fillRect(QRectF(under.left(), under.top(), under.width() * 0.36, line),
+                   QColor(palette::kRed));
+}
+
+}  // namespace
+
+TitleScene::TitleScene(QWidget* parent) : QWidget(parent) {}
+
+QSize TitleScene::sizeHint() const {
+  const int line = fontMetrics().height();
+  return {line * 46, line * 29};
+}
+
+void TitleScene::DrawPicture() {
+  const double scale = devicePixelRatioF();
+  picture_ = QPixmap((QSizeF(size()) * scale).toSize());
+  picture_.setDevicePixelRatio(scale);
+  picture_.fill(Qt::transparent);
+  QPainter painter(&picture_);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QRectF area(rect());
+  QPainterPath card;
+  card.addRoundedRect(area, kCorner, kCorner);
+  painter.setClipPath(card);
+  DrawNight(painter, area);
+  DrawCrowd(painter, area);
+  DrawLights(painter, area);
+  DrawIce(painter, area);
+  DrawBoards(painter, area);
+  DrawPuck(painter, area);
+  DrawName(painter, area);
+}
+
+void TitleScene::paintEvent(QPaintEvent* /*event*/) {
+  if (picture_.size() != (QSizeF(size()) * devicePixelRatioF()).toSize()) DrawPicture();
+  QPainter(this).drawPixmap(0, 0, picture_);
+}
+
+}  // namespace frostmark

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QPixmap>
+#include <QWidget>
+
+namespace frostmark {
+
+// The picture behind the start screen: an arena at night, seen from the ice level, with the name of
+// the game over it. It is drawn once for a size and kept.
+class TitleScene : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit TitleScene(QWidget* parent = nullptr);
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void DrawPicture();
+
+  QPixmap picture_;
+};
+
+}  // namespace frostmark

@@ -1,0 +1,52 @@
+#include "tools/screenshots/album.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+
+#include "desktop/screen_window.h"
+
+namespace frostmark {
+
+int FixedDice::Roll(int n) {
+  state_ = state_ * 6364136223846793005ULL + 1442695040888963407ULL;
+  return n < 1 ? 1 : static_cast<int>((state_ >> 33U) % static_cast<unsigned int>(n)) + 1;
+}
+
+Answer WillingDesktop::ShowBox(const MessageBox& box) {
+  return box.buttons == BoxButtons::kYesNo ? Answer::kYes : Answer::kOk;
+}
+
+std::string WillingDesktop::AskText(const std::string& /*prompt*/) { return {}; }
+
+Album::Album(QString out) : out_(std::move(out)) {
+  LayOutFolders();
+  QDir().mkpath(out_);
+  program_ =
+      std::make_unique<Program>(desktop_, dice_, QFile::encodeName(folder_.path()).toStdString());
+}
+
+void Album::LayOutFolders() {
+  const QDir folder(folder_.path());
+  folder.mkpath("Settings");
+  for (const char* rank : {"F", "E", "D", "C", "B", "A"}) {
+    folder.mkpath(QString("Teams/Rank %1").arg(rank));
+  }
+}
+
+void Album::Take(const Screen& screen, const QString& name) {
+  // Layouts and lists settle over a few rounds.
+  for (int i = 0; i < 5; ++i) QApplication::processEvents();
+  const ScreenWindow* window = desktop_.Window(screen);
+  if (window == nullptr) qFatal("%s has never been shown", screen.Name().c_str());
+  const QString path = out_ + "/" + name + ".png";
+  if (!const_cast<ScreenWindow*>(window)->grab().save(path)) {
+    qFatal("cannot write %s", qPrintable(path));
+  }
+}
+
+void Album::Run(Timer& timer, int times) {
+  for (int i = 0; i < times && timer.Enabled(); ++i) Raise(timer.OnTick);
+}
+
+}  // namespace frostmark

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QTemporaryDir>
+#include <cstdint>
+#include <string>
+
+#include "desktop/qt_desktop.h"
+#include "records/dice.h"
+#include "shell/program.h"
+
+namespace frostmark {
+
+// Dice that fall the same way at every start, so that pictures change only when the looks do.
+class FixedDice : public Dice {
+ public:
+  int Roll(int n) override;
+
+ private:
+  std::uint64_t state_ = 20;
+};
+
+// A desktop on which every question is answered with Yes before anybody sees it.
+class WillingDesktop : public QtDesktop {
+ public:
+  Answer ShowBox(const MessageBox& box) override;
+  std::string AskText(const std::string& prompt) override;
+};
+
+// A game in a folder of its own that is played for its pictures.
+class Album {
+ public:
+  // OUT is the folder for the pictures.
+  explicit Album(QString out);
+
+  Program& program() { return *program_; }
+  QtDesktop& desktop() { return desktop_; }
+
+  // Saves the window of SCREEN as OUT/NAME.png.
+  void Take(const Screen& screen, const QString& name);
+
+  // Runs TICK's timer by hand until it is disabled, or TIMES ticks.
+  static void Run(Timer& timer, int times);
+
+ private:
+  void LayOutFolders();
+
+  QString out_;
+  QTemporaryDir folder_;
+  WillingDesktop desktop_;
+  FixedDice dice_;
+  std::unique_ptr<Program> program_;
+};
+
+// Each plays a part of the game and takes its pictures, in this order.
+void TakeStartAndMatch(Album& album);
+void TakeFranchise(Album& album);
+
+}  // namespace frostmark

@@ -1,0 +1,57 @@
+#include "tools/screenshots/album.h"
+
+namespace frostmark {
+namespace {
+
+void ChooseTeams(FStartGame& screen) {
+  screen.List3.Select(0);
+  screen.File1.Select(2);
+  screen.List4.Select(0);
+  screen.File2.Select(4);
+}
+
+}  // namespace
+
+void TakeStartAndMatch(Album& album) {
+  Program& program = album.program();
+  Startup& startup = program.startup;
+  program.Start();
+  album.Take(startup, "startup");
+
+  Raise(startup.HighButton2.OnClick);
+  Raise(startup.HighButton4.OnClick);
+  Raise(startup.HighButton7.OnClick);
+  album.Take(startup, "create-a-team");
+  Raise(startup.Label3.OnClick);
+
+  Raise(startup.Label2.OnClick);
+  Raise(program.team_creator.Command2.OnClick);
+  program.team_creator.List1.SetListIndex(3);
+  album.Take(program.team_creator, "team-creator");
+  program.team_creator.Hide();
+
+  Raise(startup.HighButton1.OnClick);
+  ChooseTeams(program.f_start_game);
+  album.Take(program.f_start_game, "choose-teams");
+
+  Raise(program.f_start_game.HighButton1.OnClick);
+  Game& game = program.game;
+  album.Take(game, "game-rosters");
+  game.XTab1.SetFront(1);
+  Raise(game.HighButton1.OnClick);
+  Album::Run(game.Timer1, 201);
+  Raise(game.HighButton1.OnClick);
+  Album::Run(game.Timer2, 90);
+  album.Take(game, "game");
+  // On to the next goal, which is marked for a moment.
+  const std::string home = game.Label3.Caption();
+  const std::string visitor = game.Label4.Caption();
+  while (game.Timer2.Enabled() && game.Label3.Caption() == home &&
+         game.Label4.Caption() == visitor) {
+    Album::Run(game.Timer2, 1);
+  }
+  album.Take(game, "game-goal");
+  Raise(game.Label5.OnClick);
+}
+
+}  // namespace frostmark
