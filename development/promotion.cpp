@@ -70,15 +70,26 @@ void Franchise::theOffSeason() {
 // A table that names a team without a file would leave the ladder half climbed, with seven teams in
 // one league and five in another, so that it is found out before the first file moves.
 void Franchise::CheckFinalTables() {
-  const auto check = [this](std::size_t league, int place) {
-    const std::string team = TeamOfLine(StatRankLists()[league]->List(place));
-    const std::string path = program_.ordvik.TeamPath(kRanks[league], team);
-    if (!Ordvik::FileExists(path)) throw RuntimeError("File not found: " + path);
+  const auto check = [this](std::size_t league, int place, std::size_t to) {
+    const Move move = PlanMove(TeamOfLine(StatRankLists()[league]->List(place)), league, to);
+    if (!move.done && !Ordvik::FileExists(move.source)) {
+      throw RuntimeError("File not found: " + move.source);
+    }
   };
   for (std::size_t league = 0; league < kTop; ++league) {
-    check(league, kWinner);
-    check(league + 1, kLoser);
+    check(league, kWinner, league + 1);
+    check(league + 1, kLoser, league);
   }
+}
+
+// A season whose end was cut off, before it was saved, ends once more on the next day with the same
+// tables: a team that has got to its new league already stays there.
+Franchise::Move Franchise::PlanMove(const std::string& team, std::size_t from,
+                                    std::size_t to) const {
+  const std::string folder = program_.ordvik.RankFolder(kRanks[from]) + "/";
+  const std::string source = folder + team;
+  const std::string destination = WithLeagueReplaced(folder, kRanks[from], kRanks[to]) + team;
+  return {source, destination, !Ordvik::FileExists(source) && Ordvik::FileExists(destination)};
 }
 
 void Franchise::CrownChampion() {
@@ -93,8 +104,8 @@ void Franchise::CrownChampion() {
 }
 
 void Franchise::Relocate(const std::string& team, std::size_t from, std::size_t to, Label& shown) {
-  const std::string source = program_.ordvik.RankFolder(kRanks[from]) + "/";
-  Ordvik::MoveFile(source + team, WithLeagueReplaced(source, kRanks[from], kRanks[to]) + team);
+  const Move move = PlanMove(team, from, to);
+  if (!move.done) Ordvik::MoveFile(move.source, move.destination);
   shown.SetCaption(team);
   if (team == TeamName.Caption()) MyRank.SetCaption(kRanks[to]);
 }

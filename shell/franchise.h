@@ -195,6 +195,12 @@ class Franchise : public Screen {
   void ShowOwnResult(const std::string& name1, const std::string& name2);
   void AddAlert(const std::string& name1, const std::string& name2);
   void Develop(RecordList& list, int i, const char* skill);
+  struct Move {
+    std::string source;
+    std::string destination;
+    bool done;
+  };
+  Move PlanMove(const std::string& team, std::size_t from, std::size_t to) const;
   void CheckFinalTables();
   void CrownChampion();
   void Relocate(const std::string& team, std::size_t from, std::size_t to, Label& shown);

@@ -42,17 +42,31 @@ void Franchise::PressClose() {
   program_.startup.Show();
 }
 
+namespace {
+
+// The league of the saved franchise: the saved one or, when the program ended between a promotion
+// and the save behind it, the one where the team now lies. Empty when the team is nowhere.
+std::string LeagueOfSavedTeam(Ordvik& ordvik) {
+  const std::string team = ordvik.ReadSetting("Team");
+  std::string saved = ordvik.ReadSetting("Rank");
+  if (Ordvik::FileExists(ordvik.TeamPath(saved, team))) return saved;
+  for (const char* rank : kRanks) {
+    if (Ordvik::FileExists(ordvik.TeamPath(rank, team))) return rank;
+  }
+  return {};
+}
+
+}  // namespace
+
 void Startup::PressLoad() {
   Ordvik& ordvik = program_.ordvik;
   Franchise& franchise = program_.franchise;
   // Without a saved game there is nothing to take up, and reading a file that is not there would
   // never end.
-  if (!Ordvik::FileExists(
-          ordvik.TeamPath(ordvik.ReadSetting("Rank"), ordvik.ReadSetting("Team")))) {
-    return;
-  }
+  const std::string league = LeagueOfSavedTeam(ordvik);
+  if (league.empty()) return;
   franchise.TeamName.SetCaption(ordvik.ReadSetting("Team"));
-  franchise.MyRank.SetCaption(ordvik.ReadSetting("Rank"));
+  franchise.MyRank.SetCaption(league);
   franchise.NextWeek.SetCaption(ordvik.ReadSetting("Week"));
   franchise.Season.SetCaption(ordvik.ReadSetting("Season"));
   franchise.Champion.SetCaption(ordvik.ReadSetting("Champion"));
