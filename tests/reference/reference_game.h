@@ -45,6 +45,8 @@ class ReferenceGame {
   int score2 = 0;
   bool sim_running = false;
   bool cancel_visible = false;
+  // The user cancels the next Sim run while its first week is played.
+  bool cancels = false;
 
   // What the user was told and asked, one text a box: "stop ok: You are missing a position!".
   Lines boxes;
@@ -65,6 +67,7 @@ class ReferenceGame {
 
   // Files (reference_game.cpp). A file that is not there throws EndlessLoad.
   void LoadPlayerFile(Lines& list, const std::string& path);
+  void LoadSettingsList(Lines& list, const std::string& name);
 
   // Saving (reference_saving.cpp).
   void SaveGame();
@@ -123,7 +126,6 @@ class ReferenceGame {
   void Tell(const std::string& box) { boxes.push_back(box); }
   bool Asked(const std::string& box);
   std::string AskedText(const std::string& prompt);
-  void LoadSettingsList(Lines& list, const std::string& name);
   std::string RolledName(const std::string& asked_by);
 
   // reference_world.cpp

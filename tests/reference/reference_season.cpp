@@ -195,7 +195,8 @@ void ReferenceGame::PressSim() {
     return;
   }
   sim_running = true;
-  cancel_visible = true;
+  cancel_visible = !cancels;
+  cancels = false;
   const std::string wanted = "Week " + std::to_string(static_cast<long>(target));
   try {
     do {

@@ -2,6 +2,7 @@
 
 #include "tests/replay/replay.h"
 #include "tests/replay/rosters.h"
+#include "tests/replay/seeds.h"
 
 // Single procedures beside the reference, on rosters of all kinds.
 
@@ -136,7 +137,8 @@ TEST_P(ProcedureReplay, StandingsOfAnyRecords) {
 TEST_P(ProcedureReplay, UnwatchedGamesOfOddLines) {
   Franchise& franchise = replay.program().franchise;
   for (int round = 0; round < 8 && !replay.Over(); ++round) {
-    const reference::Lines team1 = OddRoster(whim, 8, 14);
+    reference::Lines team1 = OddRoster(whim, 8, 14);
+    if (round == 7) SpoilOne(whim, team1);
     const reference::Lines team2 = OddRoster(whim, 8, 14);
     GiveTeam(team1);
     Fill(franchise.Team2, team2);
@@ -171,7 +173,34 @@ TEST_P(ProcedureReplay, TrimAlertsOfAnyLength) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, ProcedureReplay, testing::Range<std::uint64_t>(1, 13));
+// Files as they come from editors: broken lines, blanks, quotes, no end.
+TEST_P(ProcedureReplay, FilesOfAnyShape) {
+  const std::string letters = "ab,,,, \r\n\"";
+  for (int round = 0; round < 60 && !replay.Over(); ++round) {
+    std::string content;
+    for (int left = Between(whim, 0, 60); left > 0; --left) {
+      content += letters[whim() % letters.size()];
+      // Nothing is said of what stands between a closing quote and the end of its item.
+      if (content.back() == '"') content += "q q,q\"\r\n";
+    }
+    const std::string path = replay.reference().SettingsPath("Alerts.fmk");
+    replay.PutFile(path, content);
+    DoTogether(
+        "reading a file",
+        [path](Program& program) {
+          program.franchise.Alerts.Clear();
+          program.ordvik.LoadSettingsList(program.franchise.Alerts, "Alerts.fmk");
+          program.ordvik.LoadPlayerFile(program.franchise.Team1, path);
+        },
+        [path](ReferenceGame& rules) {
+          rules.lists["Franchise.Alerts"].clear();
+          rules.LoadSettingsList(rules.lists["Franchise.Alerts"], "Alerts.fmk");
+          rules.LoadPlayerFile(rules.lists["Franchise.Team1"], path);
+        });
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, ProcedureReplay, Seeds(12));
 
 }  // namespace
 

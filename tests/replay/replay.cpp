@@ -55,9 +55,14 @@ void Replay::Restart() {
 
 void Replay::PutTeam(const std::string& rank, const std::string& team,
                      const reference::Lines& roster) {
-  const std::string path = reference_->TeamPath(rank, team);
-  reference_->shelf.WriteLines(path, roster);
-  std::ofstream(path, std::ios::binary) << reference_->shelf.files[path];
+  std::string content;
+  for (const std::string& record : roster) content += record + "\r\n";
+  PutFile(reference_->TeamPath(rank, team), content);
+}
+
+void Replay::PutFile(const std::string& path, const std::string& content) {
+  reference_->shelf.files[path] = content;
+  std::ofstream(path, std::ios::binary) << content;
 }
 
 void Replay::Do(const std::string& what, InProgram in_program, InReference in_reference) {

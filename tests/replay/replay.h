@@ -32,7 +32,8 @@ class Replay {
   void Answer(const std::string& answer);
   // Does all that is queued.
   void Run() { desktop_.RunSteps(); }
-  // Puts a team's file into the folder and before the reference.
+  // Puts a file, or a team's file, into the folder and before the reference.
+  void PutFile(const std::string& path, const std::string& content);
   void PutTeam(const std::string& rank, const std::string& team, const reference::Lines& roster);
   // Ends the program and starts it anew on the same files, with the same reference files.
   void Restart();

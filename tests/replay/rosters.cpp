@@ -13,6 +13,8 @@ std::string AnyWord(Whim& whim) {
   for (int letters = Between(whim, 2, 8); letters > 0; --letters) {
     word += static_cast<char>('a' + Between(whim, 0, 25));
   }
+  // The match machines look for a position in the whole record: such a name fits it too.
+  if (Between(whim, 0, 24) == 0) word += reference::ItemOf(kRoster, Between(whim, 0, 5));
   return word;
 }
 
@@ -23,10 +25,15 @@ int Between(Whim& whim, int from, int to) {
 }
 
 std::string AnyPlayer(Whim& whim, const std::string& position, const std::string& training) {
-  const int passing = Between(whim, 60, 99);
-  const int shooting = Between(whim, 60, 99);
-  const int defense = Between(whim, 60, 99);
-  const int agility = Between(whim, 60, 99);
+  return AnyPlayer(whim, position, training, 60, 99);
+}
+
+std::string AnyPlayer(Whim& whim, const std::string& position, const std::string& training,
+                      int lowest, int highest) {
+  const int passing = Between(whim, lowest, highest);
+  const int shooting = Between(whim, lowest, highest);
+  const int defense = Between(whim, lowest, highest);
+  const int agility = Between(whim, lowest, highest);
   const int overall = reference::OverallFor(position, passing, shooting, defense, agility, 70);
   return AnyWord(whim) + " " + AnyWord(whim) + "," + position + "," + std::to_string(overall) +
          "," + std::to_string(passing) + "," + std::to_string(shooting) + "," +
@@ -34,10 +41,13 @@ std::string AnyPlayer(Whim& whim, const std::string& position, const std::string
          std::to_string(Between(whim, 18, 45)) + "," + training;
 }
 
-reference::Lines ProperRoster(Whim& whim) {
+reference::Lines ProperRoster(Whim& whim) { return ProperRoster(whim, 60, 99); }
+
+reference::Lines ProperRoster(Whim& whim, int lowest, int highest) {
   reference::Lines roster;
   for (int i = 0; i < 11; ++i) {
-    roster.push_back(AnyPlayer(whim, reference::ItemOf(kRoster, i), i < 6 ? "N" : "Y"));
+    roster.push_back(
+        AnyPlayer(whim, reference::ItemOf(kRoster, i), i < 6 ? "N" : "Y", lowest, highest));
   }
   return roster;
 }
@@ -51,7 +61,19 @@ reference::Lines OddRoster(Whim& whim, int fewest, int most) {
     const std::string position = reference::ItemOf(kRoster, Between(whim, 0, 10));
     roster.push_back(AnyPlayer(whim, position, Between(whim, 0, 1) == 0 ? "N" : "Y"));
   }
+  // A man of extremes.
+  if (Between(whim, 0, 3) == 0 && !roster.empty()) {
+    std::string& record = roster[static_cast<std::size_t>(Between(whim, 0, 99)) % roster.size()];
+    record = AnyPlayer(whim, reference::GetField(record, "Position"), "N", -20, 120);
+  }
   return roster;
+}
+
+void SpoilOne(Whim& whim, reference::Lines& roster) {
+  std::string& record = roster[static_cast<std::size_t>(Between(whim, 0, 99)) % roster.size()];
+  reference::Lines parts = reference::SplitAt(record, ',');
+  parts[static_cast<std::size_t>(Between(whim, 4, 5))] = Between(whim, 0, 1) == 0 ? "" : "8x";
+  record = reference::JoinWith(parts, ',');
 }
 
 void Fill(RecordList& list, const reference::Lines& lines) {

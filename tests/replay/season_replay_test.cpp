@@ -3,6 +3,7 @@
 #include "tests/replay/doings.h"
 #include "tests/replay/replay.h"
 #include "tests/replay/rosters.h"
+#include "tests/replay/seeds.h"
 
 // Whole seasons of the program beside the reference.
 
@@ -106,7 +107,7 @@ TEST_P(SeasonReplay, AYearInTwoRuns) {
   replay.Run();
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, SeasonReplay, testing::Values(1, 2, 3));
+INSTANTIATE_TEST_SUITE_P(Seeds, SeasonReplay, Seeds(3));
 
 }  // namespace
 

@@ -2,6 +2,7 @@
 
 #include "tests/replay/doings.h"
 #include "tests/replay/replay.h"
+#include "tests/replay/seeds.h"
 
 // What users do against the grain, beside the reference.
 
@@ -114,6 +115,29 @@ TEST_P(TroubleReplay, ALineUpWithoutItsCentre) {
   replay.Run();
 }
 
+TEST_P(TroubleReplay, ASimRunCancelled) {
+  DoCreateTeam(replay, "Montreal", "Breeze");
+  replay.Answer("9");
+  replay.Do(
+      "Sim and Cancel",
+      [this](Program& program) {
+        for (std::uint64_t yields = 1000 * GetParam(); yields > 0; --yields) {
+          replay.desktop().AtYield([] {});
+        }
+        replay.desktop().AtYield([&program] {
+          EXPECT_TRUE(program.franchise.Command5.Visible());
+          Raise(program.franchise.Command5.OnClick);
+        });
+        Raise(program.franchise.Command2.OnClick);
+      },
+      [](reference::ReferenceGame& rules) {
+        rules.cancels = true;
+        rules.PressSim();
+      });
+  replay.Run();
+  EXPECT_EQ(replay.program().franchise.NextWeek.Caption(), "Week 2");
+}
+
 void SetUpAgainstItself(Program& program) {
   FStartGame& screen = program.f_start_game;
   Raise(program.startup.HighButton1.OnClick);
@@ -151,7 +175,7 @@ TEST_P(TroubleReplay, AFranchiseGameLeftForASingleGame) {
   replay.Run();
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, TroubleReplay, testing::Values(1, 2, 3));
+INSTANTIATE_TEST_SUITE_P(Seeds, TroubleReplay, Seeds(3));
 
 }  // namespace
 

@@ -2,6 +2,7 @@
 
 #include "tests/replay/replay.h"
 #include "tests/replay/rosters.h"
+#include "tests/replay/seeds.h"
 
 // Watched games of the program beside the reference, tick by tick.
 
@@ -83,12 +84,24 @@ TEST_P(WatchedReplay, TwoSingleGames) {
 TEST_P(WatchedReplay, OddLines) {
   Whim whim(GetParam());
   Replay replay(GetParam());
-  PutTeams(replay, OddRoster(whim, 9, 13), OddRoster(whim, 9, 13));
+  reference::Lines visitor = OddRoster(whim, 9, 13);
+  if (GetParam() % 4 == 0) SpoilOne(whim, visitor);
+  PutTeams(replay, OddRoster(whim, 9, 13), visitor);
   QueueGame(replay);
   replay.Run();
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, WatchedReplay, testing::Range<std::uint64_t>(1, 9));
+// Goals of two digits: the result is announced by text, not by number.
+TEST_P(WatchedReplay, HighScores) {
+  Whim whim(GetParam());
+  Replay replay(GetParam());
+  PutTeams(replay, ProperRoster(whim, 30, 60), ProperRoster(whim, 30, 60));
+  QueueGame(replay);
+  QueueClose(replay);
+  replay.Run();
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, WatchedReplay, Seeds(8));
 
 }  // namespace
 
