@@ -42,19 +42,24 @@ void Franchise::theOffSeason() {
                                             &results.Label8, &results.Label16};
   const std::array<Label*, kTop> losers = {&results.Label23, &results.Label11, &results.Label19,
                                            &results.Label7, &results.Label15};
-  CheckFinalTables();
+  RefuseShortTables();
+  // Border 0 lies between "Rank F" and "Rank E". All are looked at before the first file moves.
+  std::array<bool, kTop> open{};
+  for (std::size_t border = 0; border < kTop; ++border) open[border] = BorderOpen(border);
+
   for (std::size_t league = 0; league < kTop; ++league) {
-    const ListBox& standings = *StatRankLists()[league];
-    Relocate(TeamOfLine(standings.List(kWinner)), league, league + 1, *winners[league]);
-    const std::string loser = TeamOfLine(standings.List(kLoser));
-    if (league == 0) {
-      losers[league]->SetCaption(loser);  // there is no league below: it is only named
-    } else {
-      Relocate(loser, league, league - 1, *losers[league]);
-    }
+    const std::string winner = FinalPlace(league, kWinner);
+    const std::string loser = FinalPlace(league, kLoser);
+    if (open[league]) Relocate(winner, league, league + 1);
+    winners[league]->SetCaption(winner);
+    // Below "Rank F" there is no league: its loser is only named.
+    if (league > 0 && open[league - 1]) Relocate(loser, league, league - 1);
+    losers[league]->SetCaption(loser);
   }
   CrownChampion();
-  Relocate(TeamOfLine(StatRankA.List(kLoser)), kTop, kTop - 1, results.Label6);
+  const std::string loser = FinalPlace(kTop, kLoser);
+  if (open[kTop - 1]) Relocate(loser, kTop, kTop - 1);
+  results.Label6.SetCaption(loser);
 
   CopyTable(program_.desktop, StatRankA, results.List1);
   CopyTable(program_.desktop, StatRankB, results.List2);
@@ -67,33 +72,44 @@ void Franchise::theOffSeason() {
   results.Show();
 }
 
-// A table that names a team without a file would leave the ladder half climbed, with seven teams in
-// one league and five in another, so that it is found out before the first file moves.
-void Franchise::CheckFinalTables() {
-  const auto check = [this](std::size_t league, int place, std::size_t to) {
-    const Move move = PlanMove(TeamOfLine(StatRankLists()[league]->List(place)), league, to);
-    if (!move.done && !Ordvik::FileExists(move.source)) {
-      throw RuntimeError("File not found: " + move.source);
-    }
-  };
-  for (std::size_t league = 0; league < kTop; ++league) {
-    check(league, kWinner, league + 1);
-    check(league + 1, kLoser, league);
+std::string Franchise::FinalPlace(std::size_t league, int place) {
+  return TeamOfLine(StatRankLists()[league]->List(place));
+}
+
+// A league that has lost lines of its table has no loser to move. That ends the program, as a list
+// error does, before anything has moved.
+void Franchise::RefuseShortTables() {
+  for (const ListBox* standings : StatRankLists()) {
+    if (standings->ListCount() > kLoser) continue;
+    throw RuntimeError("Invalid list index: " + standings->Name() + " has no line " +
+                       std::to_string(kLoser));
   }
 }
 
-// A season whose end was cut off, before it was saved, ends once more on the next day with the same
+// A season whose end was cut off before it was saved ends once more on the next day with the same
 // tables: a team that has got to its new league already stays there.
 Franchise::Move Franchise::PlanMove(const std::string& team, std::size_t from,
                                     std::size_t to) const {
   const std::string folder = program_.ordvik.RankFolder(kRanks[from]) + "/";
-  const std::string source = folder + team;
-  const std::string destination = WithLeagueReplaced(folder, kRanks[from], kRanks[to]) + team;
-  return {source, destination, !Ordvik::FileExists(source) && Ordvik::FileExists(destination)};
+  Move move{folder + team, WithLeagueReplaced(folder, kRanks[from], kRanks[to]) + team,
+            MoveState::kDue};
+  if (!Ordvik::FileExists(move.source)) {
+    move.state = Ordvik::FileExists(move.destination) ? MoveState::kDone : MoveState::kLost;
+  }
+  return move;
+}
+
+// Two teams change places across a border, or none does: one of them alone would leave a league of
+// seven and one of five, in which no week can be played. A team may be missing when the tables are
+// older than the folders, after a season's end that was never saved.
+bool Franchise::BorderOpen(std::size_t border) {
+  const Move up = PlanMove(FinalPlace(border, kWinner), border, border + 1);
+  const Move down = PlanMove(FinalPlace(border + 1, kLoser), border + 1, border);
+  return up.state != MoveState::kLost && down.state != MoveState::kLost;
 }
 
 void Franchise::CrownChampion() {
-  const std::string winner = TeamOfLine(StatRankA.List(kWinner));
+  const std::string winner = FinalPlace(kTop, kWinner);
   if (winner == TeamName.Caption()) {
     program_.desktop.ShowBox(
         {BoxIcon::kInformation, BoxButtons::kOk, "Congrats! You are the best in all the leagues!"});
@@ -103,10 +119,9 @@ void Franchise::CrownChampion() {
   program_.f_results.Champ.SetCaption(winner);
 }
 
-void Franchise::Relocate(const std::string& team, std::size_t from, std::size_t to, Label& shown) {
+void Franchise::Relocate(const std::string& team, std::size_t from, std::size_t to) {
   const Move move = PlanMove(team, from, to);
-  if (!move.done) Ordvik::MoveFile(move.source, move.destination);
-  shown.SetCaption(team);
+  if (move.state == MoveState::kDue) Ordvik::MoveFile(move.source, move.destination);
   if (team == TeamName.Caption()) MyRank.SetCaption(kRanks[to]);
 }
 

@@ -195,15 +195,18 @@ class Franchise : public Screen {
   void ShowOwnResult(const std::string& name1, const std::string& name2);
   void AddAlert(const std::string& name1, const std::string& name2);
   void Develop(RecordList& list, int i, const char* skill);
+  enum class MoveState { kDue, kDone, kLost };
   struct Move {
     std::string source;
     std::string destination;
-    bool done;
+    MoveState state;
   };
   Move PlanMove(const std::string& team, std::size_t from, std::size_t to) const;
-  void CheckFinalTables();
+  bool BorderOpen(std::size_t border);
+  std::string FinalPlace(std::size_t league, int place);
+  void RefuseShortTables();
   void CrownChampion();
-  void Relocate(const std::string& team, std::size_t from, std::size_t to, Label& shown);
+  void Relocate(const std::string& team, std::size_t from, std::size_t to);
 
   Program& program_;
 };
