@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QColor>
 #include <QFile>
+#include <QFont>
 #include <QPalette>
 #include <QStyleFactory>
 #include <utility>
@@ -38,6 +39,19 @@ QString ColourCalled(const QString& name) {
   return {};
 }
 
+// Font sizes in the style sheet are multiples of the user's own, which its language cannot say.
+QString InPoints(QString sheet) {
+  static const QString kSize = QStringLiteral("font-size: ");
+  const double plain = QApplication::font().pointSizeF();
+  for (auto at = sheet.indexOf(kSize); at >= 0; at = sheet.indexOf(kSize, at + 1)) {
+    const qsizetype begin = at + kSize.size();
+    const qsizetype end = sheet.indexOf(QLatin1String("em"), begin);
+    const double points = sheet.mid(begin, end - begin).toDouble() * plain;
+    sheet.replace(begin, end + 2 - begin, QString::number(points, 'f', 1) + QLatin1String("pt"));
+  }
+  return sheet;
+}
+
 QPalette Colours() {
   QPalette colours(QColor(palette::kRaised), QColor(palette::kNight));
   colours.setColor(QPalette::Base, QColor(palette::kDeep));
@@ -69,7 +83,7 @@ QString StyleSheet() {
     sheet += ColourCalled(name);
     done = at + 1 + name.size();
   }
-  return sheet + text.mid(done);
+  return InPoints(sheet + text.mid(done));
 }
 
 void DressApplication() {

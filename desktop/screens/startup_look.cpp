@@ -1,5 +1,5 @@
 #include <QAbstractButton>
-#include <QGroupBox>
+#include <QGridLayout>
 #include <QStyle>
 
 #include "desktop/decorations.h"
@@ -8,6 +8,7 @@
 #include "desktop/screen_form.h"
 #include "desktop/widgets/pin.h"
 #include "desktop/widgets/room.h"
+#include "desktop/widgets/title_scene.h"
 #include "shell/startup.h"
 
 namespace frostmark {
@@ -37,6 +38,10 @@ void ShowPlayers(ListView& list, int rows) {
 void DecorateStartup(Startup& screen, ScreenForm& form) {
   KeepPlaceWhenHidden(Part<QWidget>(form, "HighButton4"));
   KeepPlaceWhenHidden(Part<QWidget>(form, "HighButton5"));
+  KeepPlaceWhenHidden(Part<QWidget>(form, "Frame1"));
+  auto& scene = Part<TitleScene>(form, "look_scene");
+  static_cast<QGridLayout*>(scene.layout())
+      ->setRowMinimumHeight(0, TitleScene::NameHeight(scene.sizeHint().height()));
   ShowPlayers(Part<ListView>(form, "List1"), 6);
   ShowPlayers(Part<ListView>(form, "List2"), 6);
   new Pin(Part<QWidget>(form, "Label3"), Qt::AlignTop | Qt::AlignRight, {0, 8, 8, 0});

@@ -1,5 +1,6 @@
 #include "desktop/widgets/title_scene.h"
 
+#include <QLayout>
 #include <QPainter>
 #include <QPainterPath>
 #include <array>
@@ -205,8 +206,11 @@ TitleScene::TitleScene(QWidget* parent) : QWidget(parent) {}
 
 QSize TitleScene::sizeHint() const {
   const int line = fontMetrics().height();
-  return {line * 46, line * 29};
+  const QSize content = layout() == nullptr ? QSize() : layout()->totalMinimumSize();
+  return QSize(line * 48, line * 31).expandedTo(content);
 }
+
+int TitleScene::NameHeight(int height) { return static_cast<int>(height * 0.17); }
 
 void TitleScene::DrawPicture() {
   const double scale = devicePixelRatioF();

@@ -16,6 +16,9 @@ class TitleScene : public QWidget {
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }
 
+  // How far the name of the game reaches down in a picture of HEIGHT.
+  static int NameHeight(int height);
+
  protected:
   void paintEvent(QPaintEvent* event) override;
 
