@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 
 #include "desktop/delegates/player_line.h"
 #include "desktop/delegates/row_painter.h"
@@ -17,14 +18,24 @@ QFont Bold(QFont font) {
   return font;
 }
 
+// The room for any number of two digits: the digits of a face need not be equally wide.
+double TwoDigits(const QFont& font) {
+  const QFontMetricsF metrics(font);
+  double widest = 0;
+  for (char digit = '0'; digit <= '9'; ++digit) {
+    widest = std::max(widest, metrics.horizontalAdvance(QLatin1Char(digit)));
+  }
+  return std::ceil(2 * widest) + 1;
+}
+
 // The columns of a row, from the font alone.
 struct Columns {
   explicit Columns(const QStyleOptionViewItem& option)
       : gap(row::Margin(option)),
         badge(PositionBadgeSize(QFontMetricsF(option.font))),
-        number(QFontMetricsF(Bold(option.font)).horizontalAdvance("99")),
+        number(TwoDigits(Bold(option.font))),
         name(option.fontMetrics.averageCharWidth() * 18.0),
-        age(QFontMetricsF(option.font).horizontalAdvance("99")),
+        age(TwoDigits(option.font)),
         shortest_bar(option.fontMetrics.averageCharWidth() * 5.0),
         longest_bar(option.fontMetrics.averageCharWidth() * 16.0) {}
 

@@ -3,6 +3,7 @@
 
 #include "desktop/decorations.h"
 #include "desktop/delegates/team_delegate.h"
+#include "desktop/fonts.h"
 #include "desktop/list_view.h"
 #include "desktop/screen_form.h"
 #include "desktop/screens/own_team.h"
@@ -35,6 +36,7 @@ constexpr std::array kTables = {"List1", "List2", "List3", "List4", "List5", "Li
 }  // namespace
 
 void DecorateFResults(FResults& screen, ScreenForm& form) {
+  UsePosterFonts();
   const auto own_team = OwnTeam(screen);
   for (const Named& named : kNamed) Part<FateLabel>(form, named.label).SetFate(named.fate);
   const auto mark_own = [&form, own_team] {

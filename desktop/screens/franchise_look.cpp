@@ -6,6 +6,7 @@
 #include "desktop/delegates/news_delegate.h"
 #include "desktop/delegates/player_delegate.h"
 #include "desktop/delegates/team_delegate.h"
+#include "desktop/fonts.h"
 #include "desktop/list_view.h"
 #include "desktop/screen_form.h"
 #include "desktop/screens/own_team.h"
@@ -48,6 +49,7 @@ void KeepPlace(QWidget& widget) {
 }  // namespace
 
 void DecorateFranchise(Franchise& screen, ScreenForm& form) {
+  UsePosterFonts();
   auto& alerts = Part<ListView>(form, "Alerts");
   alerts.setItemDelegate(new NewsDelegate(OwnTeam(screen), &alerts));
   GiveRoom(alerts, 80, 8);
