@@ -15,8 +15,8 @@ struct LineSkills {
   int goalie = 85;    // the goalie's Defense
 };
 
-// A lead line in roster order, with the names "go1", "rd1", "ld1", "rf1", "cf1", "lf1" for NUMBER 1.
-// Small letters, for two capitals in a name would count as a position.
+// A lead line in roster order, with the names "go1", "rd1", "ld1", "rf1", "cf1", "lf1" for
+// NUMBER 1. Small letters, for two capitals in a name would count as a position.
 inline Lines LeadLine(int number, const LineSkills& skills = {}) {
   Lines line;
   for (const char* position : {"GO", "RD", "LD", "RF", "CF", "LF"}) {

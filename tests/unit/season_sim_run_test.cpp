@@ -1,0 +1,197 @@
+#include <functional>
+
+#include "records/runtime_error.h"
+#include "tests/unit/game_fixture.h"
+
+// The press of "Sim" and the run that follows.
+
+namespace frostmark::testing {
+namespace {
+
+class SimRunTest : public GameFixture {
+ protected:
+  SimRunTest() {
+    world.FillWorld();
+    TakeOver("Rank F", "F0 Wolves");
+    franchise().Show();
+    dice().KeepRolls(false);
+  }
+  void Sim(const std::string& answer) {
+    desktop().QueueAnswer(answer);
+    Raise(franchise().Command2.OnClick);
+  }
+  int GamesPlayed() { return static_cast<int>(ordvik().counts().file_writes) / 2; }
+
+  void ExpectRefused(const std::string& answer, const std::string& text) {
+    Sim(answer);
+    ASSERT_FALSE(desktop().Boxes().empty());
+    EXPECT_EQ(desktop().Boxes().back().text, text) << answer;
+    EXPECT_EQ(desktop().Boxes().back().icon, BoxIcon::kStop);
+    EXPECT_EQ(desktop().Boxes().back().buttons, BoxButtons::kOk);
+    EXPECT_FALSE(franchise().SimRunning);
+    EXPECT_FALSE(franchise().Command5.Visible());
+    EXPECT_EQ(GamesPlayed(), 0);
+  }
+  void When(std::function<bool()> is_time, std::function<void()> action) {
+    desktop().AtYield([=, this] {
+      if (is_time()) return action();
+      When(is_time, action);
+    });
+  }
+};
+
+constexpr const char* kNoNumber = "You must enter a valid number!";
+constexpr const char* kNotGreater = "You must select a week greater than your current!";
+
+TEST_F(SimRunTest, InTheOffSeasonNothingIsAsked) {
+  franchise().NextWeek.SetCaption("Off Season");
+  Raise(franchise().Command2.OnClick);
+  EXPECT_TRUE(desktop().Prompts().empty());
+  ASSERT_EQ(desktop().Boxes().size(), 1U);
+  EXPECT_EQ(desktop().Boxes()[0].text, "You can't simulate the off season!");
+  EXPECT_EQ(desktop().Boxes()[0].icon, BoxIcon::kStop);
+  EXPECT_FALSE(franchise().Command5.Visible());
+}
+
+TEST_F(SimRunTest, TheQuestionIsThis) {
+  Sim("");
+  EXPECT_EQ(desktop().Prompts(), std::vector<std::string>{"Simulate until which week?"});
+}
+
+TEST_F(SimRunTest, WhatIsNoNumberIsRefused) {
+  for (const char* answer : {"", "cancel", "abc", "   ", "5 weeks", "Week 5", "1e", "--3", "1,5",
+                             "1e999", "nan", "inf", "."}) {
+    ExpectRefused(answer, kNoNumber);
+  }
+}
+
+TEST_F(SimRunTest, ATargetNotBeyondTheCurrentWeekIsRefused) {
+  for (const char* answer : {"1", "0", "-3", "1.9", "-1e3", " 1 "}) {
+    ExpectRefused(answer, kNotGreater);
+  }
+  franchise().NextWeek.SetCaption("Week 3");
+  for (const char* answer : {"3", "3.9", "2", "1"}) ExpectRefused(answer, kNotGreater);
+  franchise().NextWeek.SetCaption("Week 10");
+  ExpectRefused("10", kNotGreater);
+}
+
+TEST_F(SimRunTest, ACurrentWeekAboveElevenIsRefused) {
+  franchise().NextWeek.SetCaption("Week 12");
+  ExpectRefused("13", "You can't simulate beyond the currect schedule!");
+  // The target is compared first.
+  ExpectRefused("12", kNotGreater);
+}
+
+TEST_F(SimRunTest, AMarkerWithoutANumberEndsTheProgram) {
+  franchise().NextWeek.SetCaption("Draft");
+  desktop().QueueAnswer("5");
+  EXPECT_THROW(Raise(franchise().Command2.OnClick), RuntimeError);
+}
+
+TEST_F(SimRunTest, ARunStopsWithTheTargetAsTheNextWeek) {
+  Sim("5");
+  EXPECT_EQ(franchise().NextWeek.Caption(), "Week 5");
+  EXPECT_EQ(GamesPlayed(), 4 * 18);
+  EXPECT_FALSE(franchise().SimRunning);
+  EXPECT_FALSE(franchise().Command5.Visible());
+  EXPECT_TRUE(desktop().Boxes().empty());
+  EXPECT_EQ(desktop().Waits(), 0);
+  EXPECT_NE(franchise().LooseOrWin.Caption(), "");
+  EXPECT_EQ(franchise().Label19.Caption(), "vs F2 Wolves");
+}
+
+TEST_F(SimRunTest, TheTargetIsCutToAWholeNumber) {
+  Sim("2.9");
+  EXPECT_EQ(franchise().NextWeek.Caption(), "Week 2");
+  Sim("3.0");
+  EXPECT_EQ(franchise().NextWeek.Caption(), "Week 3");
+  Sim("  4 ");
+  EXPECT_EQ(franchise().NextWeek.Caption(), "Week 4");
+  Sim("+5");
+  EXPECT_EQ(franchise().NextWeek.Caption(), "Week 5");
+  Sim(".06e2");
+  EXPECT_EQ(franchise().NextWeek.Caption(), "Week 6");
+  Sim("7.9");
+  EXPECT_EQ(franchise().NextWeek.Caption(), "Week 7");
+}
+
+TEST_F(SimRunTest, ATargetOfTenLeavesWeekTenToPlay) {
+  Sim("1e1");
+  EXPECT_EQ(franchise().NextWeek.Caption(), "Week 10");
+  EXPECT_EQ(GamesPlayed(), 9 * 18);
+}
+
+TEST_F(SimRunTest, DuringARunTheCancelButtonShows) {
+  When([this] { return franchise().Alerts.ListCount() == 1; },
+       [this] {
+         EXPECT_TRUE(franchise().SimRunning);
+         EXPECT_TRUE(franchise().Command5.Visible());
+       });
+  Sim("2");
+}
+
+TEST_F(SimRunTest, CancelEndsTheRunBehindTheWeekBeingPlayed) {
+  When([this] { return GamesPlayed() == 7; },
+       [this] {
+         Raise(franchise().Command5.OnClick);
+         EXPECT_FALSE(franchise().Command5.Visible());
+         EXPECT_TRUE(franchise().SimRunning);
+       });
+  Sim("9");
+  EXPECT_EQ(franchise().NextWeek.Caption(), "Week 2");
+  EXPECT_EQ(GamesPlayed(), 18);
+  EXPECT_FALSE(franchise().SimRunning);
+  // Behind the games too, in the rest of a press.
+  When([this] { return franchise().NextWeek.Caption() == "Week 4"; },
+       [this] { Raise(franchise().Command5.OnClick); });
+  Sim("9");
+  EXPECT_EQ(franchise().NextWeek.Caption(), "Week 4");
+  EXPECT_EQ(GamesPlayed(), 3 * 18);
+}
+
+TEST_F(SimRunTest, ATargetBeyondTheScheduleGoesThroughTheOffSeason) {
+  desktop().AtWait([] { throw ProgramEnded(); });  // his next opponent may have moved
+  try {
+    Sim("20");
+  } catch (const ProgramEnded&) {
+  }
+  EXPECT_EQ(franchise().NextWeek.Caption(), "Week 1");
+  EXPECT_FALSE(franchise().SimRunning);
+  EXPECT_FALSE(franchise().Command5.Visible());
+  EXPECT_TRUE(program().f_results.Visible());
+  EXPECT_FALSE(franchise().Visible());
+  EXPECT_EQ(franchise().Season.Caption(), "1");
+  EXPECT_EQ(GamesPlayed(), 180);
+}
+
+TEST_F(SimRunTest, ADoubledPositionIsAskedAboutBeforeEveryWeek) {
+  Lines roster = MakeRoster(74);
+  roster[6].back() = 'N';
+  world.WriteTeam("Rank F", "F0 Wolves", roster);
+  franchise().ClearRoster();
+  for (const std::string& record : roster) franchise().AddToRoster(record);
+  desktop().QueueAnswer("4");
+  for (const char* answer : {"no", "no", "no"}) desktop().QueueAnswer(answer);
+  Raise(franchise().Command2.OnClick);
+  EXPECT_EQ(franchise().NextWeek.Caption(), "Week 4");
+  EXPECT_EQ(desktop().Boxes().size(), 3U);
+  EXPECT_EQ(desktop().LeftOverAnswers(), 0U);
+  // A yes ends the run.
+  desktop().QueueAnswer("9");
+  for (const char* answer : {"no", "yes"}) desktop().QueueAnswer(answer);
+  Raise(franchise().Command2.OnClick);
+  EXPECT_EQ(franchise().NextWeek.Caption(), "Week 5");
+  EXPECT_FALSE(franchise().SimRunning);
+}
+
+TEST_F(SimRunTest, AMissingPositionEndsTheRun) {
+  franchise().MainList.RemoveItem(0);
+  Sim("5");
+  EXPECT_EQ(franchise().NextWeek.Caption(), "Week 1");
+  EXPECT_EQ(desktop().Boxes().size(), 1U);
+  EXPECT_FALSE(franchise().SimRunning);
+  EXPECT_FALSE(franchise().Command5.Visible());
+}
+
+}  // namespace
+}  // namespace frostmark::testing
