@@ -17,6 +17,13 @@ if(FROSTMARK_DESKTOP)
   install(FILES ${id}.desktop ${id}.metainfo.xml
     ${icon}.svg ${icon}-48.png ${icon}-128.png ${icon}-256.png
     DESTINATION menu)
+  # The fonts are built in, and their licence asks to come along.
+  file(GLOB font_licences RELATIVE ${CMAKE_CURRENT_SOURCE_DIR}/desktop/fonts CONFIGURE_DEPENDS
+    desktop/fonts/*/OFL.txt)
+  foreach(licence ${font_licences})
+    get_filename_component(font ${licence} DIRECTORY)
+    install(FILES desktop/fonts/${licence} DESTINATION licences RENAME ${font}-OFL.txt)
+  endforeach()
 endif()
 
 # `cpack` in the build folder makes an archive of the portable folder.
