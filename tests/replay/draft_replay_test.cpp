@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <map>
+
 #include "tests/replay/doings.h"
 #include "tests/replay/replay.h"
 #include "tests/replay/rosters.h"
@@ -11,18 +14,26 @@ namespace frostmark::replay {
 
 namespace {
 
+std::string NoOlderThan(int oldest, const std::string& record) {
+  reference::Lines parts = reference::SplitAt(record, ',');
+  parts[7] = std::to_string(std::min(oldest, reference::NumberField(record, "Age")));
+  return reference::JoinWith(parts, ',');
+}
+
 class DraftReplay : public testing::TestWithParam<std::uint64_t> {
  protected:
   DraftReplay() : whim(GetParam()), replay(GetParam()) {}
 
   // Puts a world of TEAMS teams a league into the folder; the user's is in the league OWN.
-  void PutWorld(int teams, int own, int fewest, int most) {
+  // Nobody is older than OLDEST.
+  void PutWorld(int teams, int own, int fewest, int most, int oldest = 45) {
     for (int rank = 0; rank < kRankCount; ++rank) {
       for (int team = 0; team < teams; ++team) {
         const std::string name =
             std::string(1, static_cast<char>('A' + team)) + " of " + std::to_string(rank);
-        replay.PutTeam(kRanks.at(static_cast<std::size_t>(rank)), name,
-                       OddRoster(whim, fewest, most));
+        reference::Lines roster = OddRoster(whim, fewest, most);
+        for (std::string& record : roster) record = NoOlderThan(oldest, record);
+        replay.PutTeam(kRanks.at(static_cast<std::size_t>(rank)), name, roster);
       }
     }
     const std::string own_team = "B of " + std::to_string(own);
@@ -58,6 +69,30 @@ TEST_P(DraftReplay, RostersTooShortForTheRule) {
   PutWorld(2, Between(whim, 0, 5), 5, 11);
   DoDraft(replay);
   replay.Run();
+}
+
+// Nobody is old enough for the release rule to stop at: with fewer than eight it runs off the
+// roster.
+TEST_P(DraftReplay, YoungRostersTooShortForTheRule) {
+  PutWorld(2, Between(whim, 0, 5), 7, 9, 24);
+  DoDraft(replay);
+  replay.Run();
+}
+
+TEST_P(DraftReplay, APoolThatRunsOut) {
+  PutWorld(6, Between(whim, 0, 5), 11, 11);
+  for (const auto& [path, content] : std::map(replay.reference().shelf.files)) {
+    reference::Lines roster;
+    replay.reference().LoadPlayerFile(roster, path);
+    std::string without_goalie;
+    for (const std::string& record : roster) {
+      if (reference::GetField(record, "Position") != "GO") without_goalie += record + "\r\n";
+    }
+    replay.PutFile(path, without_goalie);
+  }
+  DoDraft(replay);
+  replay.Run();
+  EXPECT_TRUE(replay.Over());
 }
 
 TEST_P(DraftReplay, AddDrafteeToAnyList) {
