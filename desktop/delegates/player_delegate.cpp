@@ -14,7 +14,7 @@ namespace frostmark {
 namespace {
 
 QFont Bold(QFont font) {
-  font.setBold(true);
+  font.setWeight(QFont::DemiBold);
   return font;
 }
 
@@ -34,7 +34,7 @@ struct Columns {
       : gap(row::Margin(option)),
         badge(PositionBadgeSize(QFontMetricsF(option.font))),
         number(TwoDigits(Bold(option.font))),
-        name(option.fontMetrics.averageCharWidth() * 18.0),
+        name(option.fontMetrics.averageCharWidth() * 20.0),
         age(TwoDigits(option.font)),
         shortest_bar(option.fontMetrics.averageCharWidth() * 5.0),
         longest_bar(option.fontMetrics.averageCharWidth() * 16.0) {}

@@ -62,7 +62,7 @@ void PaintRuns(QPainter& painter, const QRectF& rect, const std::vector<Run>& ru
   QRectF rest = rect;
   for (const Run& run : runs) {
     QFont own = font;
-    own.setBold(run.bold || font.bold());
+    if (run.bold) own.setWeight(QFont::DemiBold);
     painter.setFont(own);
     PaintText(painter, rest, run.text, color);
     rest.setLeft(rest.left() + QFontMetricsF(own).horizontalAdvance(run.text));

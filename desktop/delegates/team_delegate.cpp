@@ -52,7 +52,7 @@ void TeamDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   if (const auto line = ParseTeamLine(prepared.text)) {
     if (line->team == own_team_()) {
       row::PaintOwn(*painter, prepared);
-      prepared.font.setBold(true);
+      prepared.font.setWeight(QFont::DemiBold);
       painter->setFont(prepared.font);
     }
     PaintTeam(*painter, prepared, *line, index.row(), league_);

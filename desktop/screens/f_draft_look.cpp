@@ -52,7 +52,7 @@ void DecorateFDraft(FDraft& screen, ScreenForm& form) {
   for (const PoolParts& part : kPool) {
     auto& list = Part<ListView>(form, part.list);
     list.setItemDelegate(new PlayerDelegate(&list));
-    GiveRoom(list, 38, 5);
+    GiveRoom(list, 40, 4);
   }
   auto& events = Part<ListView>(form, "Events");
   const auto own_team = OwnTeam(screen);

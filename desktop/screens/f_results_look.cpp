@@ -1,3 +1,4 @@
+#include <QLabel>
 #include <QPushButton>
 #include <array>
 
@@ -5,6 +6,7 @@
 #include "desktop/delegates/team_delegate.h"
 #include "desktop/fonts.h"
 #include "desktop/list_view.h"
+#include "desktop/palette.h"
 #include "desktop/screen_form.h"
 #include "desktop/screens/own_team.h"
 #include "desktop/widgets/fate_label.h"
@@ -31,6 +33,8 @@ constexpr std::array kNamed = {
     Named{"Label24", Fate::kGoesUp},  Named{"Label23", Fate::kStays},
 };
 
+constexpr double kChampionSize = 2.6;  // in ordinary letters
+
 constexpr std::array kTables = {"List1", "List2", "List3", "List4", "List5", "List6"};
 
 }  // namespace
@@ -56,7 +60,10 @@ void DecorateFResults(FResults& screen, ScreenForm& form) {
     list.setItemDelegate(new TeamDelegate(league, own_team, &list));
     GiveRoom(list, 40, 6);
   }
-  ShowOwn(Part<QLabel>(form, "Champ"), true);
+  auto& champion = Part<QLabel>(form, "Champ");
+  champion.setStyleSheet(QStringLiteral("color: %1; font-size: %2pt")
+                             .arg(QColor(palette::kGold).name())
+                             .arg(form.font().pointSizeF() * kChampionSize));
   Part<QPushButton>(form, "Command1").setFocus();
 }
 

@@ -8,8 +8,10 @@
 #include "desktop/delegates/team_delegate.h"
 #include "desktop/fonts.h"
 #include "desktop/list_view.h"
+#include "desktop/palette.h"
 #include "desktop/screen_form.h"
 #include "desktop/screens/own_team.h"
+#include "desktop/widgets/focus_keeper.h"
 #include "desktop/widgets/room.h"
 #include "shell/franchise.h"
 
@@ -35,8 +37,14 @@ void DressRoster(ScreenForm& form) {
   for (const char* name : {"MainRoster", "TrainingRoster"}) {
     auto& list = Part<ListView>(form, name);
     list.setItemDelegate(new PlayerDelegate(&list));
-    GiveRoom(list, 42, 8);
+    GiveRoom(list, 46, 8);
   }
+}
+
+// The word between the two teams, in the poster face.
+void DressVersus(QLabel& versus) {
+  versus.setStyleSheet(QStringLiteral("font-family: \"Arial Black\"; color: %1")
+                           .arg(QColor(palette::kRedBright).name()));
 }
 
 // Keeps the place of a widget that comes and goes, so that the others do not jump.
@@ -57,9 +65,15 @@ void DecorateFranchise(Franchise& screen, ScreenForm& form) {
   DressRoster(form);
 
   ShowOwn(Part<QLabel>(form, "TeamName"), true);
+  DressVersus(Part<QLabel>(form, "look_versus"));
   KeepPlace(Part<QLabel>(form, "Label18"));
   KeepPlace(Part<QPushButton>(form, "Command5"));
-  Part<QPushButton>(form, "HighButton1").setFocus();
+
+  auto* keeper = new FocusKeeper(&form);
+  auto& begin = Part<QPushButton>(form, "HighButton1");
+  keeper->Add(begin);
+  keeper->Add(Part<QPushButton>(form, "Command2"));
+  begin.setFocus();
 }
 
 }  // namespace frostmark

@@ -6,6 +6,11 @@
 
 namespace frostmark {
 
+ArrowButton::ArrowButton(QWidget* parent) : QPushButton(parent) {
+  // An arrow needs none of the width that makes buttons with words look alike.
+  setStyleSheet("QPushButton { min-width: 0; }");
+}
+
 QSize ArrowButton::sizeHint() const {
   const int side = fontMetrics().height() * 13 / 5;
   return {side, side};

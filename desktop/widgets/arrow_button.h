@@ -10,7 +10,7 @@ class ArrowButton : public QPushButton {
   Q_PROPERTY(bool leftward MEMBER leftward_)
 
  public:
-  explicit ArrowButton(QWidget* parent = nullptr) : QPushButton(parent) {}
+  explicit ArrowButton(QWidget* parent = nullptr);
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }

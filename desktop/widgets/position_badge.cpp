@@ -29,7 +29,7 @@ void PaintPositionBadge(QPainter& painter, const QRectF& rect, const QString& po
   painter.drawRoundedRect(rect, radius, radius);
 
   QFont font = painter.font();
-  font.setBold(true);
+  font.setWeight(QFont::DemiBold);
   if (font.pixelSize() > 0) {
     font.setPixelSize(qRound(font.pixelSize() * 0.85));
   } else {

@@ -22,7 +22,7 @@ QFont ProgressMarks::MarkFont() const {
   } else {
     font.setPointSizeF(font.pointSizeF() * shrink);
   }
-  font.setBold(true);
+  font.setWeight(QFont::DemiBold);
   return font;
 }
 

@@ -23,15 +23,15 @@ RatingBar::RatingBar(QWidget* parent) : QLabel(parent) {
 
 QFont RatingBar::FigureFont() const {
   QFont figure = font();
-  figure.setBold(true);
+  figure.setWeight(QFont::DemiBold);
   return figure;
 }
 
-QSize RatingBar::sizeHint() const {
+QSize RatingBar::SizeWithBar(double lines) const {
   const QFontMetricsF metrics(FigureFont());
   const double figure =
       std::max(metrics.horizontalAdvance(text()), metrics.horizontalAdvance("00"));
-  return {static_cast<int>(std::ceil(figure + metrics.height() * 4)),
+  return {static_cast<int>(std::ceil(figure + metrics.height() * lines)),
           static_cast<int>(std::ceil(metrics.height() * 1.3))};
 }
 

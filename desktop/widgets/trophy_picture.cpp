@@ -28,13 +28,13 @@ QLinearGradient Metal(double left, double right) {
 }
 
 void PaintGlow(QPainter& painter) {
-  QRadialGradient glow(50, 50, 62);
+  QRadialGradient glow(50, 50, 50);
   QColor light(palette::kGold);
   light.setAlphaF(0.30F);
   glow.setColorAt(0, light);
   light.setAlphaF(0);
   glow.setColorAt(1, light);
-  painter.fillRect(QRectF(-12, -12, 124, 124), glow);
+  painter.fillRect(QRectF(0, 0, 100, 100), glow);
 }
 
 void PaintHandles(QPainter& painter) {
