@@ -5,10 +5,9 @@
 #include <string>
 #include <utility>
 
-namespace frostmark {
+#include "ui/desktop.h"
 
-// Unwinds the game's procedures when the program has ended below them. Only a Guard catches it.
-struct ProgramEnded {};
+namespace frostmark {
 
 // The one way from Qt into the game. Whatever a handler throws stops here, since exceptions must
 // not pass Qt's own frames, and nothing enters the game any more once the program has ended.

@@ -19,6 +19,10 @@ struct MessageBox {
   std::string text;  // "\n" is a line break
 };
 
+// Thrown to leave the program at its end, from any depth, by a front end that does not leave the
+// process there and then. No std::exception, so that nobody takes it for a failure.
+struct ProgramEnded {};
+
 // All that the game asks of the world outside its screens. A front end implements it.
 class Desktop : public UiQueue {
  public:
@@ -39,7 +43,7 @@ class Desktop : public UiQueue {
   virtual std::chrono::microseconds SinceMidnight() = 0;
 
   // Ends the program at once, whatever is on the stack. Does not return: it leaves the process or
-  // throws something that is no std::exception and that only the front end catches.
+  // throws ProgramEnded, which only the front end catches.
   [[noreturn]] virtual void EndProgram() = 0;
 };
 

@@ -12,10 +12,6 @@
 
 namespace frostmark {
 
-// Thrown by a headless desktop to leave a program at its end, from any depth. No std::exception, so
-// that nobody takes it for a failure.
-struct ProgramEnded {};
-
 // A desktop without windows, for tests and for the console: time moves only when it is told to, and
 // boxes are answered from a queue. A test plays the user by queueing what he does at the program's
 // next yields and waits.
