@@ -1,0 +1,267 @@
+#include <filesystem>
+#include <functional>
+
+#include "records/runtime_error.h"
+#include "tests/unit/game_fixture.h"
+
+// The end of a season: who moves, what is shown, in which order.
+
+namespace frostmark::testing {
+namespace {
+
+class PromotionTest : public GameFixture {
+ protected:
+  PromotionTest() {
+    world.FillWorld();
+    TakeOver("Rank F", "F3 Wolves");
+    franchise().Show();
+  }
+  FResults& results() { return program().f_results; }
+
+  // Takes over TEAM, with the tables in folder order: number 0 first, number 5 last.
+  void EndSeasonOf(const std::string& team) {
+    franchise().TeamName.SetCaption(team);
+    franchise().LoadNewTeams();
+    franchise().theOffSeason();
+  }
+  bool LiesIn(const std::string& team, const std::string& rank) {
+    return std::filesystem::exists(world.TeamPath(rank, team));
+  }
+};
+
+TEST_F(PromotionTest, TheScreenStartsAsDesigned) {
+  EXPECT_EQ(results().Caption(), "Results");
+  EXPECT_EQ(results().XTab1.Tabs(), (std::vector<std::string>{"Results", "Overall Standings"}));
+  EXPECT_EQ(results().Command1.Caption(), "Draft");
+  EXPECT_EQ(results().Label4.Caption(), "Champion:");
+  EXPECT_EQ(results().Champ.Caption(), "Denver Skeletons");
+  for (const char* name : {"Label5", "Label6", "Label16", "Label15", "Label8", "Label7", "Label20",
+                           "Label19", "Label12", "Label11", "Label24", "Label23"}) {
+    EXPECT_EQ(static_cast<Label*>(results().Find(name))->Caption(), "No one") << name;
+  }
+  const char* const frames[] = {"Frame1", "Frame4", "Frame2", "Frame5",  "Frame3",  "Frame6",
+                                "Frame7", "Frame8", "Frame9", "Frame10", "Frame11", "Frame12"};
+  const char* const ranks[] = {"Rank A", "Rank B", "Rank C", "Rank D", "Rank E", "Rank F"};
+  for (std::size_t i = 0; i < 12; ++i) {
+    EXPECT_EQ(static_cast<Frame*>(results().Find(frames[i]))->Caption(), ranks[i % 6]);
+  }
+  for (const char* name : {"Label1", "Label18", "Label10", "Label22", "Label14", "Label26"}) {
+    EXPECT_EQ(static_cast<Label*>(results().Find(name))->Caption(), "Winner:") << name;
+  }
+  for (const char* name : {"Label2", "Label17", "Label9", "Label21", "Label13", "Label25"}) {
+    EXPECT_EQ(static_cast<Label*>(results().Find(name))->Caption(), "Loser:") << name;
+  }
+}
+
+TEST_F(PromotionTest, FirstsGoUpAndLastsGoDown) {
+  const Lines before = world.Everything();
+  franchise().theOffSeason();
+  EXPECT_EQ(world.FileNames("Rank F"),
+            (Lines{"E5 Wolves", "F1 Wolves", "F2 Wolves", "F3 Wolves", "F4 Wolves", "F5 Wolves"}));
+  EXPECT_EQ(world.FileNames("Rank E"),
+            (Lines{"D5 Wolves", "E1 Wolves", "E2 Wolves", "E3 Wolves", "E4 Wolves", "F0 Wolves"}));
+  EXPECT_EQ(world.FileNames("Rank D"),
+            (Lines{"C5 Wolves", "D1 Wolves", "D2 Wolves", "D3 Wolves", "D4 Wolves", "E0 Wolves"}));
+  EXPECT_EQ(world.FileNames("Rank C"),
+            (Lines{"B5 Wolves", "C1 Wolves", "C2 Wolves", "C3 Wolves", "C4 Wolves", "D0 Wolves"}));
+  EXPECT_EQ(world.FileNames("Rank B"),
+            (Lines{"A5 Wolves", "B1 Wolves", "B2 Wolves", "B3 Wolves", "B4 Wolves", "C0 Wolves"}));
+  EXPECT_EQ(world.FileNames("Rank A"),
+            (Lines{"A0 Wolves", "A1 Wolves", "A2 Wolves", "A3 Wolves", "A4 Wolves", "B0 Wolves"}));
+  // Moved, not changed.
+  EXPECT_EQ(ReadLines(world.TeamPath("Rank E", "F0 Wolves")), MakeRoster(74));
+  EXPECT_EQ(ReadLines(world.TeamPath("Rank B", "A5 Wolves")), MakeRoster(94));
+  EXPECT_EQ(world.Everything().size(), before.size());
+}
+
+TEST_F(PromotionTest, TheLabelsNameThemAll) {
+  franchise().theOffSeason();
+  EXPECT_EQ(results().Label24.Caption(), "F0 Wolves");
+  EXPECT_EQ(results().Label23.Caption(), "F5 Wolves");
+  EXPECT_EQ(results().Label12.Caption(), "E0 Wolves");
+  EXPECT_EQ(results().Label11.Caption(), "E5 Wolves");
+  EXPECT_EQ(results().Label20.Caption(), "D0 Wolves");
+  EXPECT_EQ(results().Label19.Caption(), "D5 Wolves");
+  EXPECT_EQ(results().Label8.Caption(), "C0 Wolves");
+  EXPECT_EQ(results().Label7.Caption(), "C5 Wolves");
+  EXPECT_EQ(results().Label16.Caption(), "B0 Wolves");
+  EXPECT_EQ(results().Label15.Caption(), "B5 Wolves");
+  EXPECT_EQ(results().Label5.Caption(), "A0 Wolves");
+  EXPECT_EQ(results().Champ.Caption(), "A0 Wolves");
+  EXPECT_EQ(results().Label6.Caption(), "A5 Wolves");
+}
+
+TEST_F(PromotionTest, PlacesGoByTheOrderOfTheTableAlone) {
+  // The two firsts are equal to the rule; the order that stands decides.
+  FillList(franchise().StatRankC, {"(5-3-2) C4 Wolves", "(5-3-0) C1 Wolves", "(4-0-0) C0 Wolves",
+                                   "(9-0-0) C2 Wolves", "(1-0-0) C3 Wolves", "(3-3-0) C5 Wolves"});
+  franchise().theOffSeason();
+  EXPECT_EQ(results().Label8.Caption(), "C4 Wolves");
+  EXPECT_TRUE(LiesIn("C4 Wolves", "Rank B"));
+  EXPECT_TRUE(LiesIn("C5 Wolves", "Rank D"));
+  EXPECT_TRUE(LiesIn("C2 Wolves", "Rank C"));
+}
+
+TEST_F(PromotionTest, TheTablesAreCopiedAsTheyStood) {
+  franchise().StatRankE.SetList(0, "(7-2-1) E0 Wolves");
+  const auto yields = desktop().Yields();
+  franchise().theOffSeason();
+  EXPECT_EQ(desktop().Yields() - yields, 36);
+  const std::array<ListBox*, 6> shown = {&results().List6, &results().List5, &results().List4,
+                                         &results().List3, &results().List2, &results().List1};
+  for (std::size_t league = 0; league < kRanks.size(); ++league) {
+    EXPECT_EQ(ItemsOf(*shown[league]), ItemsOf(*franchise().StatRankLists()[league]));
+  }
+  EXPECT_EQ(results().List5.List(0), "(7-2-1) E0 Wolves");
+  // A second season does not add to the first.
+  EndSeasonOf("F3 Wolves");
+  EXPECT_EQ(results().List1.ListCount(), 6);
+}
+
+TEST_F(PromotionTest, TheTopTableIsCopiedFirst) {
+  desktop().AtYield([this] {
+    EXPECT_EQ(results().List1.ListCount(), 1);
+    EXPECT_EQ(results().List6.ListCount(), 0);
+    // All teams have moved by now, and the season is not yet counted.
+    EXPECT_TRUE(LiesIn("A5 Wolves", "Rank B"));
+    EXPECT_EQ(franchise().Season.Caption(), "00");
+    EXPECT_FALSE(results().Visible());
+  });
+  franchise().theOffSeason();
+}
+
+TEST_F(PromotionTest, TheLeagueListsStayUntilTheDraftIsOver) {
+  std::vector<Lines> lists;
+  for (ListBox* list : franchise().RankLists()) lists.push_back(ItemsOf(*list));
+  for (ListBox* list : franchise().StatRankLists()) lists.push_back(ItemsOf(*list));
+  franchise().theOffSeason();
+  std::vector<Lines> after;
+  for (ListBox* list : franchise().RankLists()) after.push_back(ItemsOf(*list));
+  for (ListBox* list : franchise().StatRankLists()) after.push_back(ItemsOf(*list));
+  EXPECT_EQ(after, lists);
+}
+
+TEST_F(PromotionTest, TheUsersLeagueFollowsHisTeam) {
+  const struct {
+    const char* team;
+    const char* rank;
+  } cases[] = {{"F0 Wolves", "Rank E"}, {"E0 Wolves", "Rank D"}, {"D0 Wolves", "Rank C"},
+               {"C0 Wolves", "Rank B"}, {"B0 Wolves", "Rank A"}, {"A5 Wolves", "Rank B"},
+               {"B5 Wolves", "Rank C"}, {"C5 Wolves", "Rank D"}, {"D5 Wolves", "Rank E"},
+               {"E5 Wolves", "Rank F"}, {"F5 Wolves", "Rank F"}, {"C3 Wolves", "Rank C"}};
+  for (const auto& c : cases) {
+    for (const char* rank : kRanks) {
+      for (const std::string& name : world.FileNames(rank)) {
+        std::filesystem::remove(world.TeamPath(rank, name));
+      }
+    }
+    world.FillWorld();
+    EndSeasonOf(c.team);
+    EXPECT_EQ(franchise().MyRank.Caption(), c.rank) << c.team;
+    EXPECT_TRUE(LiesIn(c.team, c.rank)) << c.team;
+  }
+  EXPECT_TRUE(desktop().Boxes().empty());
+  EXPECT_EQ(franchise().Champion.Caption(), "00");
+}
+
+TEST_F(PromotionTest, TheUserIsShownUnderTheLeagueInWhichHePlayed) {
+  EndSeasonOf("F0 Wolves");
+  EXPECT_EQ(results().Label24.Caption(), "F0 Wolves");
+  EXPECT_EQ(results().List6.List(0), "(0-0-0) F0 Wolves");
+}
+
+TEST_F(PromotionTest, AUserWhoWinsTheTopLeagueIsCongratulated) {
+  franchise().Champion.SetCaption("2");
+  EndSeasonOf("A0 Wolves");
+  ASSERT_EQ(desktop().Boxes().size(), 1U);
+  EXPECT_EQ(desktop().Boxes()[0].text, "Congrats! You are the best in all the leagues!");
+  EXPECT_EQ(desktop().Boxes()[0].icon, BoxIcon::kInformation);
+  EXPECT_EQ(desktop().Boxes()[0].buttons, BoxButtons::kOk);
+  EXPECT_EQ(franchise().Champion.Caption(), "3");
+  EXPECT_EQ(franchise().MyRank.Caption(), "Rank A");
+  EXPECT_TRUE(LiesIn("A0 Wolves", "Rank A"));
+  EXPECT_EQ(results().Label5.Caption(), "A0 Wolves");
+}
+
+// A desktop that looks on while a box stands.
+class WatchfulDesktop : public HeadlessDesktop {
+ public:
+  Answer ShowBox(const MessageBox& box) override {
+    if (OnBox) OnBox();
+    return HeadlessDesktop::ShowBox(box);
+  }
+  std::function<void()> OnBox;
+};
+
+TEST_F(PromotionTest, TheTitleIsCountedWhenTheMessageIsClosed) {
+  WatchfulDesktop watchful;
+  Program other(watchful, dice(), world.path());
+  other.franchise.TeamName.SetCaption("A0 Wolves");
+  other.franchise.LoadNewTeams();
+  int boxes = 0;
+  watchful.OnBox = [&] {
+    ++boxes;
+    EXPECT_EQ(other.franchise.Champion.Caption(), "00");
+    EXPECT_EQ(other.f_results.Label5.Caption(), "No one");
+    EXPECT_EQ(other.f_results.Label16.Caption(), "B0 Wolves");
+    EXPECT_TRUE(LiesIn("A5 Wolves", "Rank A"));
+    EXPECT_TRUE(LiesIn("B0 Wolves", "Rank A"));
+  };
+  other.franchise.theOffSeason();
+  EXPECT_EQ(boxes, 1);
+  EXPECT_EQ(other.franchise.Champion.Caption(), "1");
+}
+
+TEST_F(PromotionTest, TheSeasonCountsUpAndTheScreenIsShown) {
+  EXPECT_EQ(franchise().Season.Caption(), "00");
+  franchise().theOffSeason();
+  EXPECT_EQ(franchise().Season.Caption(), "1");
+  EXPECT_EQ(franchise().NextWeek.Caption(), "Draft");
+  EXPECT_TRUE(results().Visible());
+  EXPECT_TRUE(franchise().Visible());  // the press hides it
+  for (const auto& [before, after] : {std::pair{"9", "10"}, {"2.7", "3"}, {"", "1"}, {"x", "1"}}) {
+    franchise().Season.SetCaption(before);
+    EndSeasonOf("F3 Wolves");
+    EXPECT_EQ(franchise().Season.Caption(), after);
+  }
+}
+
+TEST_F(PromotionTest, ATeamOfTheSameNameInTheNewLeagueIsReplaced) {
+  world.WriteTeam("Rank E", "F0 Wolves", MakeRoster(99));
+  franchise().theOffSeason();
+  EXPECT_EQ(ReadLines(world.TeamPath("Rank E", "F0 Wolves")), MakeRoster(74));
+}
+
+TEST_F(PromotionTest, ATableShorterThanSixEndsTheProgramBeforeAnythingMoves) {
+  for (ListBox* table : franchise().StatRankLists()) {
+    const Lines whole = ItemsOf(*table);
+    table->RemoveItem(5);
+    const Lines files = world.Everything();
+    try {
+      franchise().theOffSeason();
+      ADD_FAILURE() << table->Name();
+    } catch (const RuntimeError& error) {
+      EXPECT_STRNE(error.what(), "");
+    }
+    EXPECT_EQ(world.Everything(), files);
+    EXPECT_EQ(franchise().Season.Caption(), "00");
+    EXPECT_EQ(franchise().NextWeek.Caption(), "Week 1");
+    EXPECT_FALSE(results().Visible());
+    FillList(*table, whole);
+  }
+}
+
+TEST_F(PromotionTest, ATeamThatIsNowhereLeavesTheBorderClosed) {
+  std::filesystem::remove(world.TeamPath("Rank D", "D0 Wolves"));
+  franchise().theOffSeason();
+  // "D0 Wolves" can't go up, so "C5 Wolves" stays; all others move.
+  EXPECT_TRUE(LiesIn("C5 Wolves", "Rank C"));
+  EXPECT_TRUE(LiesIn("C0 Wolves", "Rank B"));
+  EXPECT_TRUE(LiesIn("D5 Wolves", "Rank E"));
+  EXPECT_EQ(world.FileNames("Rank C").size(), 6U);
+  EXPECT_EQ(results().Label20.Caption(), "D0 Wolves");
+  EXPECT_EQ(results().Label7.Caption(), "C5 Wolves");
+}
+
+}  // namespace
+}  // namespace frostmark::testing
