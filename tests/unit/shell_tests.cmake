@@ -6,4 +6,17 @@ set(shell_tests
   records_list_test.cpp
   records_numbers_test.cpp
   records_ratings_test.cpp
-  records_settings_test.cpp)
+  records_settings_test.cpp
+  shell_bad_input_test.cpp
+  shell_load_test.cpp
+  shell_new_franchise_test.cpp
+  shell_roster_test.cpp
+  shell_save_test.cpp
+  shell_start_screen_test.cpp
+  ui_controls_test.cpp
+  ui_headless_desktop_test.cpp
+  ui_screens_test.cpp
+  ui_timers_test.cpp
+  world_league_build_test.cpp
+  world_names_test.cpp
+  world_players_test.cpp)

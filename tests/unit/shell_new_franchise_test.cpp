@@ -1,0 +1,304 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "tests/unit/game_fixture.h"
+
+namespace frostmark::testing {
+namespace {
+
+class NewFranchiseTest : public GameFixture {
+ protected:
+  void SetUp() override {
+    dice().KeepRolls(false);
+    program().Start();
+    startup().HighButton2.OnClick();
+  }
+  void FillRankF(int teams) {
+    for (int i = 0; i < teams; ++i) {
+      world.WriteTeam("Rank F", WolvesOf("Rank F", i), MakeRoster(80));
+    }
+  }
+  void New() { startup().HighButton4.OnClick(); }
+  void Generate() { startup().HighButton7.OnClick(); }
+  void Begin() { startup().HighButton6.OnClick(); }
+  TeamCreator& creator() { return program().team_creator; }
+};
+
+using PanelTest = NewFranchiseTest;
+
+TEST_F(PanelTest, NewOnAFirstRunAsksNothingBuildsAndOpensThePanel) {
+  New();
+  ASSERT_EQ(desktop().Boxes().size(), 1U);
+  EXPECT_EQ(desktop().Boxes()[0].text, "Please wait as this may take some time...");
+  EXPECT_EQ(world.FileNames("Rank F").size(), 5U);
+  EXPECT_EQ(world.FileNames("Rank A").size(), 6U);
+  EXPECT_TRUE(startup().Frame1.OnView());
+}
+
+TEST_F(PanelTest, NewOverARunningGameAsks) {
+  FillRankF(6);
+  desktop().QueueAnswer("no");
+  New();
+  ASSERT_EQ(desktop().Boxes().size(), 1U);
+  EXPECT_EQ(desktop().Boxes()[0].text,
+            "There is already a loaded game in progress. Would you like to create a new game?\n"
+            "Warning: Doing this will delete your last game.");
+  EXPECT_EQ(desktop().Boxes()[0].icon, BoxIcon::kStop);
+  EXPECT_EQ(desktop().Boxes()[0].buttons, BoxButtons::kYesNo);
+}
+
+TEST_F(PanelTest, NoLeavesEverythingAsItWas) {
+  FillRankF(6);
+  const Lines before = world.Everything();
+  desktop().QueueAnswer("no");
+  New();
+  EXPECT_EQ(world.Everything(), before);
+  EXPECT_FALSE(startup().Frame1.Visible());
+  EXPECT_EQ(franchise().Season.Caption(), "00");
+}
+
+TEST_F(PanelTest, YesBuildsOnceAndOpensThePanel) {
+  world.FillWorld();
+  desktop().QueueAnswer("yes");
+  New();
+  EXPECT_EQ(desktop().Boxes().size(), 2U);
+  const Lines teams = world.FileNames("Rank F");
+  EXPECT_EQ(teams.size(), 5U);
+  EXPECT_EQ(std::count(teams.begin(), teams.end(), "F0 Wolves"), 0);
+  EXPECT_TRUE(startup().Frame1.Visible());
+}
+
+TEST_F(PanelTest, AfterTheBuildTheListingIsThatOfTheLastLeagueWhichMayBeEmpty) {
+  // With a world only in "Rank F" the build lists an empty "Rank A" last, so it comes twice.
+  FillRankF(6);
+  desktop().QueueAnswer("yes");
+  New();
+  EXPECT_EQ(startup().File1.Path(), world.path() + "/Teams/Rank A");
+  EXPECT_EQ(desktop().Boxes().size(), 3U);
+}
+
+TEST_F(PanelTest, ANumberOfTeamsThatIsNeitherNoneNorSixOpensThePanelAtOnce) {
+  for (const int teams : {5, 1, 4, 7, 8}) {
+    for (const std::string& name : world.FileNames("Rank F")) {
+      Ordvik::DeleteFile(world.TeamPath("Rank F", name));
+    }
+    FillRankF(teams);
+    startup().Frame1.Hide();
+    const Lines before = world.Everything();
+    New();
+    EXPECT_TRUE(startup().Frame1.Visible());
+    EXPECT_EQ(world.Everything(), before);
+  }
+  EXPECT_TRUE(desktop().Boxes().empty());
+}
+
+TEST_F(PanelTest, SettingsAreNotConsulted) {
+  WriteText(world.SettingsPath("settings.fmk"), "[Frostmark]\r\nTeam=F0 Wolves\r\n");
+  FillRankF(5);
+  New();
+  EXPECT_EQ(ordvik().counts().file_reads, 0);
+  EXPECT_TRUE(desktop().Boxes().empty());
+}
+
+TEST_F(PanelTest, GenerateShowsEachLineInReverseWithItsRatings) {
+  Generate();
+  const Lines team = ItemsOf(creator().List1);
+  Lines lead;
+  Lines training;
+  for (std::size_t i = team.size(); i-- > 0;)
+    (i < 6 ? lead : training).push_back(PanelLine(team[i]));
+  EXPECT_EQ(ItemsOf(startup().List1), lead);
+  EXPECT_EQ(ItemsOf(startup().List2), training);
+  EXPECT_TRUE(startup().List1.List(5).starts_with("GO - "));
+  EXPECT_TRUE(startup().List1.List(0).starts_with("LF - "));
+  EXPECT_EQ(startup().Label10.Caption(), std::to_string(naming().TeamOffense));
+  EXPECT_EQ(startup().Label9.Caption(), std::to_string(naming().TeamDefense));
+  EXPECT_EQ(startup().Label8.Caption(), std::to_string(naming().TeamOverall));
+}
+
+TEST_F(PanelTest, ALineOfThePanelHasNoBrackets) {
+  dice().Give({1, 1, 10, 11, 12, 13, 3});
+  Generate();
+  EXPECT_EQ(startup().List1.List(5), "GO - John Johnson 89/22");
+}
+
+TEST_F(PanelTest, GenerateTwiceShowsTheSecondTeamOnly) {
+  Generate();
+  const Lines first = ItemsOf(startup().List1);
+  Generate();
+  EXPECT_EQ(startup().List1.ListCount(), 6);
+  EXPECT_EQ(startup().List2.ListCount(), 5);
+  EXPECT_NE(ItemsOf(startup().List1), first);
+}
+
+TEST_F(PanelTest, NamesAreCutAtTwelveAndSixteenCharacters) {
+  startup().Text1.Type("ABCDEFGHIJKLMNOP");
+  startup().Text2.Type("ABCDEFGHIJKLMNOPQRST");
+  EXPECT_EQ(startup().Text1.Text(), "ABCDEFGHIJKL");
+  EXPECT_EQ(startup().Text2.Text(), "ABCDEFGHIJKLMNOP");
+  startup().Text1.Type("M\u00FCnster M\u00FCnster");  // characters, not bytes
+  EXPECT_EQ(startup().Text1.Text(), "M\u00FCnster M\u00FCns");
+}
+
+TEST_F(PanelTest, TheCrossClosesThePanelAndTheTeamStays) {
+  Generate();
+  startup().Frame1.Show();
+  const Lines team = ItemsOf(creator().List1);
+  startup().Label3.OnClick();
+  EXPECT_FALSE(startup().Frame1.Visible());
+  EXPECT_EQ(ItemsOf(creator().List1), team);
+}
+
+TEST_F(PanelTest, TheHotSpotRollsUntilTheWantedOverallComesUp) {
+  desktop().QueueAnswer("86");
+  startup().Label12.OnClick();
+  EXPECT_EQ(desktop().Prompts(), (Lines{"Desired overall?"}));
+  EXPECT_EQ(startup().Label8.Caption(), "86");
+  EXPECT_EQ(startup().List1.ListCount(), 6);
+}
+
+TEST_F(PanelTest, TheWantedOverallIsComparedAsText) {
+  struct Enough {};
+  for (const char* wanted : {" 86", "86.0", "086", "cancel", "best", "200"}) {
+    desktop().QueueAnswer(wanted);
+    // Without end: the user is still there after many teams.
+    constexpr int kYieldsOfATeam = 11 + 11 + 1;
+    for (int i = 0; i < 60 * kYieldsOfATeam; ++i) desktop().AtYield([] {});
+    desktop().AtYield([] { throw Enough(); });
+    EXPECT_THROW(startup().Label12.OnClick(), Enough) << wanted;
+  }
+}
+
+TEST_F(PanelTest, TheHotSpotYieldsAfterEachTeam) {
+  dice().ThenAlways(30);  // every skill 70
+  desktop().QueueAnswer("70");
+  const auto before = desktop().Yields();
+  startup().Label12.OnClick();
+  EXPECT_EQ(desktop().Yields() - before, 11 + 11 + 1);
+}
+
+class BeginTest : public NewFranchiseTest {
+ protected:
+  void SetUp() override {
+    NewFranchiseTest::SetUp();
+    New();
+    Generate();
+  }
+  Lines Team() { return ItemsOf(creator().List1); }
+};
+
+TEST_F(BeginTest, WritesTheTeamFillsTheScreenAndSaves) {
+  const Lines team = Team();
+  Begin();
+  EXPECT_EQ(ReadLines(world.TeamPath("Rank F", "Montreal Breeze")), team);
+  EXPECT_EQ(world.FileNames("Rank F").size(), 6U);
+  EXPECT_FALSE(startup().Visible());
+  EXPECT_TRUE(franchise().Visible());
+  EXPECT_EQ(ItemsOf(franchise().MainList), Lines(team.begin(), team.begin() + 6));
+  EXPECT_EQ(ItemsOf(franchise().TrainList), Lines(team.begin() + 6, team.end()));
+  EXPECT_EQ(franchise().MainRoster.List(0), RosterLine(team[0]));
+  EXPECT_EQ(franchise().TrainingRoster.List(0), RosterLine(team[6]));
+  EXPECT_EQ(franchise().Label9.Caption(), startup().Label8.Caption());
+  EXPECT_EQ(franchise().Label12.Caption(), startup().Label10.Caption());
+  EXPECT_EQ(franchise().Label15.Caption(), startup().Label9.Caption());
+  EXPECT_EQ(franchise().TeamName.Caption(), "Montreal Breeze");
+  EXPECT_EQ(franchise().MyRank.Caption(), "Rank F");
+  EXPECT_EQ(franchise().NextWeek.Caption(), "Week 1");
+  EXPECT_EQ(franchise().Season.Caption(), "0");
+  EXPECT_EQ(franchise().Champion.Caption(), "0");
+  EXPECT_EQ(franchise().RankF.ListCount(), 6);
+  EXPECT_EQ(franchise().StatRankF.List(0), FreshTeamLine(franchise().RankF.List(0)));
+  EXPECT_NE(franchise().OppTeam.Caption(), "");
+  EXPECT_FALSE(startup().Frame1.Visible());
+  EXPECT_FALSE(startup().HighButton4.Visible());
+  EXPECT_FALSE(startup().HighButton5.Visible());
+  EXPECT_EQ(desktop().Boxes().back().text, "File saved!");
+  EXPECT_EQ(ordvik().ReadSetting("Team"), "Montreal Breeze");
+  EXPECT_EQ(ordvik().ReadSetting("Week"), "Week 1");
+}
+
+TEST_F(BeginTest, TheNamesAreThoseOfThePanel) {
+  startup().Text1.Type("Quebec");
+  startup().Text2.Type("Ice Men");
+  Begin();
+  EXPECT_EQ(franchise().TeamName.Caption(), "Quebec Ice Men");
+  EXPECT_EQ(ReadLines(world.TeamPath("Rank F", "Quebec Ice Men")).size(), 11U);
+}
+
+TEST_F(BeginTest, EmptyNamesAreNotRefused) {
+  startup().Text1.Type("");
+  startup().Text2.Type("");
+  Begin();
+  EXPECT_EQ(franchise().TeamName.Caption(), " ");
+  EXPECT_EQ(ReadLines(world.TeamPath("Rank F", " ")).size(), 11U);
+}
+
+TEST_F(BeginTest, ATeamOfThatNameIsOverwrittenAndTheLeagueHasFive) {
+  const std::string other = world.FileNames("Rank F")[2];
+  const std::size_t blank = other.find(' ');
+  startup().Text1.SetText(other.substr(0, blank));
+  startup().Text2.SetText(other.substr(blank + 1));
+  const Lines team = Team();
+  Begin();
+  EXPECT_EQ(world.FileNames("Rank F").size(), 5U);
+  EXPECT_EQ(ReadLines(world.TeamPath("Rank F", other)), team);
+  EXPECT_EQ(franchise().RankF.ListCount(), 5);
+}
+
+TEST_F(BeginTest, TheFranchiseIsOnViewWhileTheRosterFills) {
+  for (int i = 0; i < 11; ++i) desktop().AtYield([] {});  // the team file
+  for (int i = 1; i <= 11; ++i) {
+    desktop().AtYield([this, i] {
+      EXPECT_TRUE(franchise().Visible());
+      EXPECT_FALSE(startup().Visible());
+      EXPECT_EQ(franchise().MainList.ListCount() + franchise().TrainList.ListCount(), i);
+      EXPECT_EQ(franchise().TeamName.Caption(), "");
+      EXPECT_TRUE(startup().Frame1.Visible());
+    });
+  }
+  Begin();
+}
+
+TEST_F(BeginTest, ASecondBeginInOneRunAddsToTheRoster) {
+  Begin();
+  franchise().HighButton2.OnClick();
+  startup().HighButton2.OnClick();
+  startup().Text1.Type("Quebec");
+  Begin();
+  EXPECT_EQ(franchise().MainList.ListCount(), 12);
+  EXPECT_EQ(franchise().TrainList.ListCount(), 10);
+  EXPECT_EQ(ReadLines(world.TeamPath("Rank F", "Quebec Breeze")).size(), 22U);
+}
+
+using BeginWithoutBuildTest = NewFranchiseTest;
+
+TEST_F(BeginWithoutBuildTest, SeasonAndChampionshipsAreSavedAsTheScreenStarts) {
+  FillRankF(5);
+  New();
+  Generate();
+  Begin();
+  EXPECT_EQ(ordvik().ReadSetting("Season"), "00");
+  EXPECT_EQ(ordvik().ReadSetting("Champion"), "00");
+}
+
+TEST_F(BeginWithoutBuildTest, BeforeAnyGenerateTheTeamIsEmptyAndItGoesOnAllTheSame) {
+  FillRankF(5);
+  New();
+  Begin();
+  EXPECT_EQ(ReadText(world.TeamPath("Rank F", "Montreal Breeze")), "");
+  EXPECT_TRUE(franchise().Visible());
+  EXPECT_EQ(franchise().MainList.ListCount(), 0);
+  EXPECT_EQ(desktop().Boxes().back().text, "File saved!");
+}
+
+TEST_F(BeginWithoutBuildTest, RightAfterABuildTheTeamIsTheOneThatTheBuildRolledLast) {
+  New();
+  const Lines last = ItemsOf(creator().List1);
+  ASSERT_EQ(last.size(), 11U);
+  Begin();
+  EXPECT_EQ(ReadLines(world.TeamPath("Rank F", "Montreal Breeze")), last);
+}
+
+}  // namespace
+}  // namespace frostmark::testing

@@ -1,0 +1,111 @@
+#include <gtest/gtest.h>
+
+#include "tests/unit/game_fixture.h"
+
+namespace frostmark::testing {
+namespace {
+
+class StartScreenTest : public GameFixture {
+ protected:
+  void SetUp() override { program().Start(); }
+};
+
+// Counts the requests to drag a screen.
+class Drags : public Screen::Observer {
+ public:
+  void ScreenChanged(Screen& /*screen*/) override {}
+  void DragRequested(Screen& screen) override { names.push_back(screen.Name()); }
+  Lines names;
+};
+
+TEST_F(StartScreenTest, TheProgramShowsItAndDoesNothingElse) {
+  EXPECT_TRUE(startup().Visible());
+  EXPECT_EQ(program().screens.VisibleOnes(), (std::vector<Screen*>{&startup()}));
+  EXPECT_EQ(ordvik().counts().file_reads, 0);
+  EXPECT_EQ(ordvik().counts().rolls, 0);
+  EXPECT_EQ(desktop().Yields(), 0);
+  EXPECT_TRUE(desktop().Boxes().empty());
+}
+
+TEST_F(StartScreenTest, AGameOnDiskIsNotLookedAt) {
+  world.FillWorld();
+  WriteText(world.SettingsPath("settings.fmk"),
+            "[Frostmark]\r\nTeam=F0 Wolves\r\nRank=Rank F\r\nWeek=Week 4\r\n");
+  Restart();
+  program().Start();
+  EXPECT_EQ(ordvik().counts().file_reads, 0);
+  EXPECT_EQ(startup().File1.ListCount(), 0);
+  EXPECT_EQ(franchise().TeamName.Caption(), "");
+  EXPECT_EQ(franchise().NextWeek.Caption(), "Week 1");
+}
+
+TEST_F(StartScreenTest, NewAndLoadComeAndGoWithFranchise) {
+  EXPECT_FALSE(startup().HighButton4.Visible());
+  EXPECT_FALSE(startup().HighButton5.Visible());
+  startup().HighButton2.OnClick();
+  EXPECT_TRUE(startup().HighButton4.Visible());
+  EXPECT_TRUE(startup().HighButton5.Visible());
+  startup().HighButton2.OnClick();
+  EXPECT_FALSE(startup().HighButton4.Visible());
+  EXPECT_FALSE(startup().HighButton5.Visible());
+}
+
+TEST_F(StartScreenTest, NewAloneDecidesWhetherFranchiseShowsOrHides) {
+  startup().HighButton5.Show();
+  startup().HighButton2.OnClick();
+  EXPECT_TRUE(startup().HighButton4.Visible());
+  EXPECT_TRUE(startup().HighButton5.Visible());
+}
+
+TEST_F(StartScreenTest, SingleGameOpensTheChoiceWithEmptyLists) {
+  world.FillWorld();
+  startup().HighButton1.OnClick();
+  EXPECT_EQ(program().f_start_game.File1.Path(), world.path() + "/Teams");
+  EXPECT_EQ(program().f_start_game.File2.Path(), world.path() + "/Teams");
+  EXPECT_EQ(program().f_start_game.File1.ListCount(), 0);
+  EXPECT_EQ(program().f_start_game.File2.ListCount(), 0);
+  EXPECT_TRUE(program().f_start_game.Visible());
+  EXPECT_FALSE(startup().Visible());
+}
+
+TEST_F(StartScreenTest, ExitEndsTheProgramAtOnceWithoutSavingOrAsking) {
+  EXPECT_THROW(startup().HighButton3.OnClick(), ProgramEnded);
+  EXPECT_TRUE(desktop().Boxes().empty());
+  EXPECT_TRUE(world.Everything().empty());
+}
+
+TEST_F(StartScreenTest, ExitWithAFranchiseBehindItSavesNothing) {
+  world.FillWorld();
+  TakeOver("Rank F", "F2 Wolves");
+  const Lines before = world.Everything();
+  franchise().Show();
+  franchise().HighButton2.OnClick();
+  EXPECT_TRUE(startup().Visible());
+  EXPECT_THROW(startup().HighButton3.OnClick(), ProgramEnded);
+  EXPECT_EQ(world.Everything(), before);
+  EXPECT_TRUE(desktop().Boxes().empty());
+}
+
+TEST_F(StartScreenTest, TheAddressOpensTheWebPage) {
+  startup().Label1.OnClick();
+  EXPECT_EQ(desktop().WebPages(), (Lines{startup().Label1.Caption()}));
+}
+
+TEST_F(StartScreenTest, TheHotSpotOpensTheToolBesideTheStartScreen) {
+  startup().Label2.OnClick();
+  EXPECT_TRUE(program().team_creator.Visible());
+  EXPECT_TRUE(startup().Visible());
+}
+
+TEST_F(StartScreenTest, ScreensWithoutAFrameAreDraggedByBackgroundOrTabs) {
+  Drags drags;
+  for (Screen* screen : program().screens.All()) screen->SetObserver(&drags);
+  startup().OnMouseDown();
+  franchise().OnMouseDown();
+  franchise().XTab1.OnMouseDown();
+  program().f_player.XTab1.OnMouseDown();
+  EXPECT_EQ(drags.names, (Lines{"Startup", "Franchise", "Franchise", "FPlayer"}));
+}
+
+}  // namespace
+}  // namespace frostmark::testing
