@@ -20,8 +20,8 @@ namespace frostmark {
 // and the handler that it raises are kept small.
 class Console : private ConsoleDesktop::Commands {
  public:
-  // TRANSCRIPT and SOURCE outlive the console. INTERACTIVE: a person sits in front of it.
-  Console(const Options& options, Transcript& transcript, CommandSource& source, bool interactive);
+  // PRINTED and SOURCE outlive the console. INTERACTIVE: a person sits in front of it.
+  Console(const Options& options, Transcript& printed, CommandSource& source, bool interactive);
 
   // Returns the exit code: 0, 1 (a command was refused) or 3 (ended by an error of the game).
   int Run();

@@ -53,7 +53,7 @@ QString InPoints(QString sheet) {
 }
 
 QPalette Colours() {
-  QPalette colours(QColor(palette::kRaised), QColor(palette::kNight));
+  QPalette colours{QColor(palette::kRaised), QColor(palette::kNight)};
   colours.setColor(QPalette::Base, QColor(palette::kDeep));
   colours.setColor(QPalette::AlternateBase, QColor(palette::kPanel));
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
