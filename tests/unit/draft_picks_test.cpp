@@ -1,0 +1,399 @@
+#include <algorithm>
+
+#include "records/runtime_error.h"
+#include "tests/unit/draft_scenes.h"
+
+// The user's own turn in the draft.
+
+namespace frostmark::testing {
+namespace {
+
+using Ages = std::vector<int>;
+
+class PicksTest : public DraftScene {
+ protected:
+  PicksTest() { franchise().TeamName.SetCaption("A Team"); }
+
+  void Roster(const Lines& roster) { world.WriteTeam("Rank A", "A Team", roster); }
+
+  // Runs the draft to the first wait of the user's turn, does ACT there and goes on to the last
+  // wait of the turn.
+  void Turn(std::function<void()> act) {
+    SecondPasses();
+    desktop().AtWait([this, act] {
+      EXPECT_TRUE(draft().AwaitingPick);
+      act();
+      EXPECT_FALSE(draft().AwaitingPick);
+    });
+    Stop();
+  }
+  // The same for acts that leave the user at it.
+  void Wait(std::function<void()> act) {
+    SecondPasses();
+    desktop().AtWait([this, act] {
+      EXPECT_TRUE(draft().AwaitingPick);
+      act();
+      EXPECT_TRUE(draft().AwaitingPick);
+    });
+    Stop();
+  }
+  void DoubleClick(ListBox& list, int item, const std::string& answer) {
+    desktop().QueueAnswer(answer);
+    list.DoubleClick(item);
+    EXPECT_EQ(desktop().LeftOverAnswers(), 0U);
+  }
+  void ExpectQuestion(const std::string& text) {
+    ASSERT_FALSE(desktop().Boxes().empty());
+    EXPECT_EQ(desktop().Boxes().back().text, text);
+    EXPECT_EQ(desktop().Boxes().back().icon, BoxIcon::kQuestion);
+    EXPECT_EQ(desktop().Boxes().back().buttons, BoxButtons::kYesNo);
+  }
+};
+
+TEST_F(PicksTest, TheScreenOfTheReleaseStartsAsDesigned) {
+  EXPECT_EQ(choice().Caption(), "Select Player");
+  EXPECT_EQ(choice().XTab1.Tabs(), std::vector<std::string>{"Select Player"});
+  EXPECT_FALSE(choice().List2.Visible());
+  EXPECT_EQ(choice().on_close(), Screen::OnClose::kNothing);
+}
+
+TEST_F(PicksTest, WithoutARetirementTheUserIsAskedWhomToLetGo) {
+  Lines roster = RosterOfAges(Ages(11, 30));
+  std::reverse(roster.begin(), roster.end());  // in the file's order, unsorted
+  Roster(roster);
+  choice().List1.AddItem("left over");
+  choice().List2.AddItem("left over");
+  Wait([&] {
+    Lines lines;
+    for (const std::string& record : roster) lines.push_back(RosterLine(record));
+    EXPECT_EQ(ItemsOf(choice().List1), lines);
+    EXPECT_EQ(ItemsOf(choice().List2), roster);
+    EXPECT_EQ(ItemsOf(draft().tempList), roster);
+    EXPECT_TRUE(choice().Visible());
+    EXPECT_EQ(OpenLists(), Lines{});
+    EXPECT_EQ(Events(), Lines{});
+    EXPECT_TRUE(dice().Rolls().empty());
+    EXPECT_EQ(desktop().Waits(), 2);
+    EXPECT_EQ(desktop().Yields(), 11 * 9 + 11 + 11);
+  });
+}
+
+TEST_F(PicksTest, LettingAPlayerGoOpensHisPositionAlone) {
+  Lines roster = RosterOfAges(Ages(11, 30));
+  Roster(roster);
+  Wait([&] {
+    DoubleClick(choice().List1, 4, "yes");
+    ExpectQuestion("You sure you'd like to delete this player?\nCF - Old 4 (86/30)");
+    EXPECT_FALSE(choice().Visible());
+    EXPECT_EQ(OpenLists(), Lines{"List5(0)"});
+    EXPECT_EQ(draft().ReleasedPlayer, roster[4]);
+    EXPECT_EQ(Events(), Lines{"A Team lost (CF) Old 4. Overall: 86"});
+    EXPECT_EQ(Pool("CF").size(), 5U);  // he is not in it yet
+    roster.erase(roster.begin() + 4);
+    EXPECT_EQ(ItemsOf(draft().tempList), roster);
+    EXPECT_EQ(choice().List1.ListCount(), 11);  // they stay as they are
+    EXPECT_EQ(choice().List2.ListCount(), 11);
+  });
+}
+
+TEST_F(PicksTest, EveryPositionOpensItsOwnList) {
+  const char* const lists[] = {"List1(0)", "List3(0)", "List2(0)",
+                               "List6(0)", "List5(0)", "List4(0)"};  // GO RD LD RF CF LF
+  for (int item = 0; item < 6; ++item) {
+    Roster(RosterOfAges(Ages(11, 30)));
+    draft().SetPoolEnabled(true);
+    Wait([&] {
+      DoubleClick(choice().List1, item, "yes");
+      EXPECT_EQ(OpenLists(), Lines{lists[item]});
+    });
+    draft().ReleasedPlayer = "";
+  }
+}
+
+TEST_F(PicksTest, AnUnknownPositionOpensNothing) {
+  Lines roster = RosterOfAges(Ages(11, 30));
+  roster.push_back("Mascot,XX,10,1,1,1,1,25,Y");
+  Roster(roster);
+  Wait([&] {
+    DoubleClick(choice().List1, 11, "yes");
+    EXPECT_EQ(OpenLists(), Lines{});
+    EXPECT_FALSE(choice().Visible());
+  });
+}
+
+TEST_F(PicksTest, ANoLeavesTheUserToChooseAnother) {
+  const Lines roster = RosterOfAges(Ages(11, 30));
+  Roster(roster);
+  Wait([&] {
+    DoubleClick(choice().List1, 4, "no");
+    EXPECT_TRUE(choice().Visible());
+    EXPECT_EQ(ItemsOf(draft().tempList), roster);
+    EXPECT_EQ(draft().ReleasedPlayer, "");
+    EXPECT_EQ(Events(), Lines{});
+    EXPECT_EQ(OpenLists(), Lines{});
+    DoubleClick(choice().List1, 0, "yes");
+    EXPECT_EQ(OpenLists(), Lines{"List1(0)"});
+  });
+}
+
+TEST_F(PicksTest, ASingleClickOnlySelects) {
+  Roster(RosterOfAges(Ages(11, 30)));
+  Wait([&] {
+    choice().List1.Select(4);
+    draft().List1[0].Select(2);
+    EXPECT_TRUE(desktop().Boxes().empty());
+  });
+}
+
+TEST_F(PicksTest, APickEndsTheTurn) {
+  Lines roster = RosterOfAges(Ages(11, 30));
+  Roster(roster);
+  const Lines pool = Pool("LD");
+  Turn([&] {
+    DoubleClick(choice().List1, 7, "yes");    // an LD of the training line
+    DoubleClick(draft().List2[0], 3, "yes");  // any of them, not only the first
+    ExpectQuestion("Add this player to your squad?\nLD Rookie 3 67/20");
+    EXPECT_EQ(OpenLists().size(), 6U);
+    EXPECT_EQ(Pool("LD"), (Lines{pool[0], pool[1], pool[2], pool[4]}));
+    ExpectPoolInStep();
+    EXPECT_EQ(ReadLines(PathOf("Rank A")), roster);
+  });
+  EXPECT_EQ(Events(), (Lines{"A Team lost (LD) Old 7. Overall: 83",
+                             "A Team has added LD Rookie 3 to the team. Overall: 67"}));
+  // The man let go is back in the pool, with his "Y"; the new one comes as "N".
+  EXPECT_EQ(Pool("LD")[0], roster[7]);
+  EXPECT_EQ(Pool("LD").size(), 5U);
+  ExpectPoolInStep();
+  EXPECT_EQ(draft().ReleasedPlayer, "");
+  roster.erase(roster.begin() + 7);
+  roster.push_back(pool[3]);
+  EXPECT_EQ(ReadLines(PathOf("Rank A")), roster);
+}
+
+TEST_F(PicksTest, ANoAtThePickChangesNothing) {
+  Roster(RosterOfAges(Ages(11, 30)));
+  Wait([&] {
+    DoubleClick(choice().List1, 0, "yes");
+    const Lines pool = Pool("GO");
+    const Lines roster = ItemsOf(draft().tempList);
+    DoubleClick(draft().List1[0], 0, "no");
+    EXPECT_EQ(Pool("GO"), pool);
+    EXPECT_EQ(ItemsOf(draft().tempList), roster);
+    EXPECT_EQ(OpenLists(), Lines{"List1(0)"});
+    EXPECT_EQ(Events().size(), 1U);
+  });
+}
+
+TEST_F(PicksTest, ARetirementOfTheUsersOpensItsListAtOnce) {
+  Ages ages(11, 30);
+  ages[2] = 31;
+  ages[5] = 40;
+  Lines roster = RosterOfAges(ages);
+  Roster(roster);
+  choice().List1.AddItem("left over");
+  choice().List2.AddItem("left over");
+  dice().Give({3});
+  Turn([&] {
+    EXPECT_EQ(dice().Rolls(), (std::vector<RollPair>{{10, 3}}));
+    EXPECT_FALSE(choice().Visible());
+    EXPECT_EQ(choice().List1.ListCount(), 0);
+    EXPECT_EQ(choice().List2.ListCount(), 0);
+    EXPECT_EQ(OpenLists(), Lines{"List2(0)"});
+    EXPECT_EQ(Events(), Lines{"(LD) Old 2 has retired from A Team at 31 years old"});
+    EXPECT_EQ(draft().tempList.ListCount(), 10);
+    DoubleClick(draft().List2[0], 0, "yes");
+  });
+  EXPECT_EQ(draft().ReleasedPlayer, "");
+  EXPECT_EQ(Pool("LD").size(), 4U);  // who retires does not come back
+  const std::string rookie = ReadLines(PathOf("Rank A")).back();
+  EXPECT_EQ(HockeyNaming::GetField(rookie, "Name"), "LD Rookie 0");
+  EXPECT_EQ(HockeyNaming::GetField(rookie, "Training"), "N");
+}
+
+TEST_F(PicksTest, TheUsersRetirementsHaveTheSameChances) {
+  const struct {
+    int age;
+    int roll;
+    bool retires;
+  } cases[] = {{31, 3, true},  {31, 4, false}, {34, 3, true},
+               {34, 4, false}, {35, 8, true},  {35, 9, false}};
+  for (const auto& c : cases) {
+    Ages ages(11, 30);
+    ages[0] = c.age;
+    Roster(RosterOfAges(ages));
+    dice().Give({c.roll});
+    draft().Events.Clear();
+    choice().Hide();
+    Wait([&] {
+      EXPECT_EQ(choice().Visible(), !c.retires) << c.age << " " << c.roll;
+      EXPECT_EQ(OpenLists(), c.retires ? Lines{"List1(0)"} : Lines{});
+      EXPECT_EQ(Events().size(), c.retires ? 1U : 0U);
+    });
+  }
+}
+
+TEST_F(PicksTest, OutOfTurnADoubleClickDoesNothing) {
+  franchise().TeamName.SetCaption("a team");  // not his
+  Roster(RosterOfAges(Ages(11, 30)));
+  SecondPasses();
+  SecondPasses([this] {
+    ASSERT_FALSE(draft().AwaitingPick);
+    EXPECT_EQ(OpenLists().size(), 6U);
+    const Lines roster = ItemsOf(draft().tempList);
+    for (ListPair* list : draft().Pool()) (*list)[0].DoubleClick(0);
+    EXPECT_TRUE(desktop().Boxes().empty());
+    EXPECT_EQ(ItemsOf(draft().tempList), roster);
+    EXPECT_EQ(Pool("GO").size(), 5U);
+  });
+  Stop();
+}
+
+TEST_F(PicksTest, AnEmptyListLeavesTheDraftWaitingForGood) {
+  Roster(RosterOfAges(Ages(11, 30)));
+  SetPool("GO", {});
+  SecondPasses();
+  desktop().AtWait([this] { DoubleClick(choice().List1, 0, "yes"); });
+  for (int wait = 0; wait < 50; ++wait) {
+    desktop().AtWait([this] {
+      EXPECT_TRUE(draft().AwaitingPick);
+      EXPECT_EQ(OpenLists(), Lines{"List1(0)"});
+    });
+  }
+  Stop();
+}
+
+TEST_F(PicksTest, ExitFromBehindTheWaitingDraftEndsTheProgram) {
+  franchise().TeamName.SetCaption("B Team");
+  const Lines roster = RosterOfAges(Ages(11, 25));
+  world.WriteTeam("Rank B", "B Team", roster);
+  RunWaits(4);  // the turn of "Rank A" and the first second of the user's
+  const Lines saved = ReadLines(PathOf("Rank A"));
+  EXPECT_NE(saved, MakeRoster(80));
+
+  Restart();
+  franchise().TeamName.SetCaption("B Team");
+  FillPool(5, 70);
+  for (int wait = 0; wait < 4; ++wait) SecondPasses();
+  desktop().AtWait([this] {
+    ASSERT_TRUE(draft().AwaitingPick);
+    Raise(startup().HighButton3.OnClick);
+  });
+  EXPECT_THROW(draft().RunDraft(), ProgramEnded);
+  EXPECT_EQ(ReadLines(PathOf("Rank B")), roster);
+  EXPECT_EQ(ReadLines(PathOf("Rank A")).size(), 11U);
+  EXPECT_EQ(ReadLines(PathOf("Rank C")), MakeRoster(80));
+  EXPECT_EQ(world.SettingsNames(), Lines{});
+}
+
+TEST_F(PicksTest, AddDrafteePutsHimInHisPlaceAndForgetsHim) {
+  std::string best = MakeRecord({.name = "Best", .position = "CF", .passing = 99, .training = "Y"});
+  const std::string record = best;
+  const auto yields = desktop().Yields();
+  draft().AddDraftee(best);
+  EXPECT_EQ(best, "");
+  EXPECT_EQ(Pool("CF").size(), 6U);
+  EXPECT_EQ(Pool("CF")[0], record);
+  EXPECT_EQ(draft().List5[0].List(0), PoolLine(record));
+  ExpectPoolInStep();
+  EXPECT_EQ(desktop().Yields() - yields, 6);
+
+  std::string worst = MakeRecord({.name = "Worst", .position = "CF", .passing = 1, .shooting = 1});
+  draft().AddDraftee(worst);
+  EXPECT_EQ(HockeyNaming::GetField(Pool("CF")[6], "Name"), "Worst");
+
+  std::string nobody = "Mascot,XX,10,1,1,1,1,25,Y";
+  draft().AddDraftee(nobody);
+  EXPECT_EQ(nobody, "");
+  for (const char* position : FDraft::kPositions) {
+    EXPECT_EQ(Pool(position).size(), position == std::string("CF") ? 7U : 5U);
+  }
+}
+
+class NewSeasonTest : public GameFixture {
+ protected:
+  NewSeasonTest() {
+    world.FillWorld();
+    TakeOver("Rank F", "F3 Wolves");
+    program().f_draft.Show();
+    program().f_draft.Command1.Enable();
+  }
+  void NewSeason() { Raise(program().f_draft.Command1.OnClick); }
+};
+
+TEST_F(NewSeasonTest, ItHandsTheGameBackAndSaves) {
+  franchise().Hide();
+  franchise().NextWeek.SetCaption("Draft");
+  franchise().Season.SetCaption("3");
+  franchise().OppTeam.SetCaption("an old opponent");
+  franchise().OppOverall.SetCaption("12");
+  franchise().LooseOrWin.SetCaption("You won 3 - 2");
+  franchise().StatRankB.SetList(0, "(3-1-0) B0 Wolves");
+  program().f_draft.List1[1].AddItem("left in the pool");
+  program().f_draft.Events.AddItem("history");
+  NewSeason();
+  EXPECT_EQ(franchise().NextWeek.Caption(), "Week 1");
+  EXPECT_FALSE(program().f_draft.Visible());
+  EXPECT_TRUE(franchise().Visible());
+  EXPECT_EQ(franchise().StatRankB.List(0), "(0-0-0) B0 Wolves");
+  EXPECT_EQ(franchise().LooseOrWin.Caption(), "");
+  EXPECT_EQ(franchise().OppTeam.Caption(), "an old opponent");
+  EXPECT_EQ(franchise().OppOverall.Caption(), "12");
+  EXPECT_EQ(franchise().MainList.ListCount(), 6);
+  EXPECT_EQ(franchise().TrainList.ListCount(), 5);
+  EXPECT_EQ(franchise().MainRoster.List(0), RosterLine(franchise().MainList.List(0)));
+  ASSERT_EQ(desktop().Boxes().size(), 1U);
+  EXPECT_EQ(desktop().Boxes()[0].text, "File saved!");
+  EXPECT_EQ(ordvik().ReadSetting("Week"), "Week 1");
+  EXPECT_EQ(ordvik().ReadSetting("Season"), "3");
+  EXPECT_EQ(ReadLines(world.SettingsPath("StatRankB.fmk"))[0], "(0-0-0) B0 Wolves");
+  // The draft's history and what is left of the pool stay until the next draft.
+  EXPECT_EQ(program().f_draft.Events.ListCount(), 1);
+  EXPECT_EQ(program().f_draft.List1[1].ListCount(), 1);
+}
+
+TEST_F(NewSeasonTest, TheTeamIsReadFromItsNewLeague) {
+  franchise().theOffSeason();
+  franchise().TeamName.SetCaption("F0 Wolves");  // went up to "Rank E"
+  franchise().MyRank.SetCaption("Rank E");
+  world.WriteTeam("Rank F", "F0 Wolves", {});  // an old file would be read as none
+  std::remove(world.TeamPath("Rank F", "F0 Wolves").c_str());
+  NewSeason();
+  EXPECT_EQ(franchise().MyRank.Caption(), "Rank E");
+  EXPECT_EQ(franchise().MainList.ListCount(), 6);
+  EXPECT_EQ(ordvik().ReadSetting("Rank"), "Rank E");
+  EXPECT_EQ(ReadLines(world.TeamPath("Rank E", "F0 Wolves")).size(), 11U);
+}
+
+TEST_F(NewSeasonTest, ANewManInTheTrainingLinesPlaceMakesASeventhLeader) {
+  Lines roster = MakeRoster(74);
+  roster.erase(roster.begin() + 8);
+  roster.push_back(MakeRecord({.name = "Rookie", .position = "RF"}));
+  world.WriteTeam("Rank F", "F3 Wolves", roster);
+  NewSeason();
+  EXPECT_EQ(franchise().MainList.ListCount(), 7);
+  EXPECT_EQ(franchise().TrainList.ListCount(), 4);
+  EXPECT_EQ(franchise().MainRoster.List(6), "RF - Rookie (80/20)");
+}
+
+TEST_F(NewSeasonTest, ARecordOnNeitherLineIsLostToTheListsAndWithTheSaveToTheFile) {
+  Lines roster = MakeRoster(74);
+  roster[8].back() = 'X';
+  world.WriteTeam("Rank F", "F3 Wolves", roster);
+  NewSeason();
+  EXPECT_EQ(franchise().MainList.ListCount(), 6);
+  EXPECT_EQ(franchise().TrainList.ListCount(), 4);
+}
+
+TEST_F(NewSeasonTest, OldListsAreForgottenAndEachRecordYields) {
+  franchise().MainList.AddItem("left over");
+  franchise().tempList.AddItem("left over");
+  const auto yields = desktop().Yields();
+  NewSeason();
+  EXPECT_EQ(franchise().MainList.ListCount(), 6);
+  EXPECT_EQ(franchise().tempList.ListCount(), 11);
+  // 36 teams, the load, eleven records, then the save: roster, its file, standings. No alerts.
+  EXPECT_EQ(desktop().Yields() - yields, 36 + 99 + 11 + 11 + 11 + 36);
+}
+
+}  // namespace
+}  // namespace frostmark::testing
