@@ -7,14 +7,15 @@ namespace frostmark {
 
 void Ordvik::WaitSeconds(const std::string& seconds) {
   const std::chrono::duration<double> wanted(LenientNumber(seconds));
-  const auto length = std::chrono::duration_cast<std::chrono::microseconds>(wanted);
+  auto length = std::chrono::duration_cast<std::chrono::microseconds>(wanted);
   const auto start = program_.desktop.SinceMidnight();
-  // The clock begins anew at midnight and is not corrected for it: the difference is then negative,
-  // and the wait lasts until the same time of the next day.
   std::chrono::microseconds passed{0};
   while (passed < length) {
     queue_.WaitFor(length - passed);
     passed = program_.desktop.SinceMidnight() - start;
+    // The clock begins anew at midnight and is not corrected for it: the difference is then
+    // negative, and the wait lasts until the time of its start has come round again.
+    if (passed.count() < 0) length = std::chrono::microseconds(0);
   }
 }
 
