@@ -352,16 +352,16 @@ TEST_F(NewSeasonTest, ItHandsTheGameBackAndSaves) {
 }
 
 TEST_F(NewSeasonTest, TheTeamIsReadFromItsNewLeague) {
+  franchise().TeamName.SetCaption("F0 Wolves");
   franchise().theOffSeason();
-  franchise().TeamName.SetCaption("F0 Wolves");  // went up to "Rank E"
-  franchise().MyRank.SetCaption("Rank E");
-  world.WriteTeam("Rank F", "F0 Wolves", {});  // an old file would be read as none
-  std::remove(world.TeamPath("Rank F", "F0 Wolves").c_str());
+  ASSERT_EQ(franchise().MyRank.Caption(), "Rank E");
   NewSeason();
   EXPECT_EQ(franchise().MyRank.Caption(), "Rank E");
+  EXPECT_EQ(franchise().RankE.List(5), "F0 Wolves");
   EXPECT_EQ(franchise().MainList.ListCount(), 6);
   EXPECT_EQ(ordvik().ReadSetting("Rank"), "Rank E");
-  EXPECT_EQ(ReadLines(world.TeamPath("Rank E", "F0 Wolves")).size(), 11U);
+  EXPECT_EQ(ReadLines(world.TeamPath("Rank E", "F0 Wolves")), MakeRoster(74));
+  EXPECT_EQ(world.FileNames("Rank F").size(), 6U);
 }
 
 TEST_F(NewSeasonTest, ANewManInTheTrainingLinesPlaceMakesASeventhLeader) {
@@ -375,13 +375,15 @@ TEST_F(NewSeasonTest, ANewManInTheTrainingLinesPlaceMakesASeventhLeader) {
   EXPECT_EQ(franchise().MainRoster.List(6), "RF - Rookie (80/20)");
 }
 
-TEST_F(NewSeasonTest, ARecordOnNeitherLineIsLostToTheListsAndWithTheSaveToTheFile) {
+// The save behind it writes the two lines, and so the man is lost to the file as well.
+TEST_F(NewSeasonTest, ARecordOnNeitherLineIsLost) {
   Lines roster = MakeRoster(74);
   roster[8].back() = 'X';
   world.WriteTeam("Rank F", "F3 Wolves", roster);
   NewSeason();
   EXPECT_EQ(franchise().MainList.ListCount(), 6);
   EXPECT_EQ(franchise().TrainList.ListCount(), 4);
+  EXPECT_EQ(ReadLines(world.TeamPath("Rank F", "F3 Wolves")).size(), 10U);
 }
 
 TEST_F(NewSeasonTest, OldListsAreForgottenAndEachRecordYields) {
