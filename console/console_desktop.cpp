@@ -81,6 +81,7 @@ void ConsoleDesktop::Step(Time limit) {
     WaitForCommand(limit);
   } else {
     commands_->BeforeInput();
+    if (!source_.HasLine()) transcript_.Flush();
     commands_->RunNextCommand();
   }
 }
