@@ -1,31 +1,18 @@
 #include <QAbstractButton>
 #include <QGridLayout>
-#include <QStyle>
 
 #include "desktop/decorations.h"
 #include "desktop/delegates/player_delegate.h"
 #include "desktop/list_view.h"
 #include "desktop/screen_form.h"
 #include "desktop/widgets/pin.h"
+#include "desktop/widgets/roles.h"
 #include "desktop/widgets/room.h"
 #include "desktop/widgets/title_scene.h"
 #include "shell/startup.h"
 
 namespace frostmark {
 namespace {
-
-void KeepPlaceWhenHidden(QWidget& widget) {
-  QSizePolicy policy = widget.sizePolicy();
-  policy.setRetainSizeWhenHidden(true);
-  widget.setSizePolicy(policy);
-}
-
-void SetRole(QWidget& widget, const char* role) {
-  if (widget.property("role") == role) return;
-  widget.setProperty("role", role);
-  widget.style()->unpolish(&widget);
-  widget.style()->polish(&widget);
-}
 
 void ShowPlayers(ListView& list, int rows) {
   list.setItemDelegate(new PlayerDelegate(&list));
@@ -50,7 +37,7 @@ void DecorateStartup(Startup& screen, ScreenForm& form) {
   // While the panel is open the way on is its own button.
   auto& franchise = Part<QAbstractButton>(form, "HighButton2");
   const auto follow = [&screen, &franchise] {
-    SetRole(franchise, screen.Frame1.Visible() ? "big" : "bigprimary");
+    SetLook(franchise, "role", screen.Frame1.Visible() ? "big" : "bigprimary");
   };
   follow();
   QObject::connect(&form, &ScreenForm::Refreshed, &form, follow);

@@ -29,10 +29,11 @@ void ColumnHeading::paintEvent(QPaintEvent* /*event*/) {
       palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, foregroundRole()));
   const QStringList words = Words();
   const QRect area = contentsRect();
-  const double width =
-      words.isEmpty() ? 0 : double(area.width()) / static_cast<double>(words.size());
+  if (words.isEmpty()) return;
+  const auto columns = static_cast<double>(words.size());
+  const double width = (area.width() - column_gap_ * (columns - 1)) / columns;
   for (int i = 0; i < words.size(); ++i) {
-    const QRectF column(area.left() + i * width, area.top(), width, area.height());
+    const QRectF column(area.left() + i * (width + column_gap_), area.top(), width, area.height());
     painter.drawText(column, static_cast<int>(alignment() | Qt::AlignVCenter), words[i]);
   }
 }

@@ -9,6 +9,8 @@ namespace frostmark {
 // widget sets each over a column of equal width.
 class ColumnHeading : public QLabel {
   Q_OBJECT
+  // The space between the columns below.
+  Q_PROPERTY(int columnGap MEMBER column_gap_)
 
  public:
   explicit ColumnHeading(QWidget* parent = nullptr) : QLabel(parent) {}
@@ -21,6 +23,8 @@ class ColumnHeading : public QLabel {
 
  private:
   QStringList Words() const;
+
+  int column_gap_ = 0;
 };
 
 }  // namespace frostmark
