@@ -1,0 +1,86 @@
+#include "tools/measure_years/coach.h"
+
+namespace frostmark {
+namespace {
+
+double OverallOf(const std::string& record) {
+  return LenientNumber(FieldView(record, Field::kOverall));
+}
+
+// The index of the best player of LIST, of POSITION if that is given; -1 if there is none.
+int BestOf(const RecordList& list, std::string_view position) {
+  int best = -1;
+  for (int i = 0; i < list.ListCount(); ++i) {
+    if (FieldView(list.List(i), Field::kPosition) != position) continue;
+    if (best < 0 || OverallOf(list.List(i)) > OverallOf(list.List(best))) best = i;
+  }
+  return best;
+}
+
+int WeakestOf(const RecordList& list) {
+  int weakest = 0;
+  for (int i = 1; i < list.ListCount(); ++i) {
+    if (OverallOf(list.List(i)) < OverallOf(list.List(weakest))) weakest = i;
+  }
+  return weakest;
+}
+
+}  // namespace
+
+void Coach::BeginFranchise() {
+  Startup& startup = program_.startup;
+  program_.Start();
+  Raise(startup.HighButton2.OnClick);
+  Raise(startup.HighButton4.OnClick);
+  Raise(startup.HighButton7.OnClick);
+  Raise(startup.HighButton6.OnClick);
+}
+
+void Coach::PlayYear() {
+  SetLines();
+  try {
+    Raise(program_.franchise.Command2.OnClick);
+  } catch (const PressLeftOpen&) {
+  }
+  Raise(program_.f_results.Command1.OnClick);
+  Raise(program_.f_draft.Command1.OnClick);
+}
+
+void Coach::Wait() {
+  if (!program_.f_draft.AwaitingPick) throw PressLeftOpen();
+  TakeTurnInDraft();
+}
+
+Answer Coach::ShowBox(const MessageBox& box) {
+  if (box.buttons == BoxButtons::kOk) return Answer::kOk;
+  return box.icon == BoxIcon::kQuestion ? Answer::kYes : Answer::kNo;
+}
+
+// A week behind the last: the run goes on through the off-season.
+std::string Coach::AskText(const std::string&) { return "11"; }
+
+void Coach::SetLines() {
+  Franchise& franchise = program_.franchise;
+  for (const char* position : {"GO", "RD", "LD", "RF", "CF", "LF"}) {
+    for (int i = BestOf(franchise.MainList, position); i >= 0;
+         i = BestOf(franchise.MainList, position)) {
+      franchise.MainRoster.Select(i);
+      Raise(franchise.Command3.OnClick);
+    }
+    franchise.TrainingRoster.Select(BestOf(franchise.TrainList, position));
+    Raise(franchise.Command4.OnClick);
+  }
+}
+
+void Coach::TakeTurnInDraft() {
+  FSelectDraft& choice = program_.f_select_draft;
+  if (choice.Visible()) {
+    choice.List1.DoubleClick(WeakestOf(choice.List2));
+    return;
+  }
+  for (ListPair* list : program_.f_draft.Pool()) {
+    if ((*list)[0].Enabled()) return (*list)[0].DoubleClick(0);
+  }
+}
+
+}  // namespace frostmark

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstdint>
+#include <random>
+#include <string>
+
+#include "shell/program.h"
+#include "ui/headless_desktop.h"
+
+namespace frostmark {
+
+// The same rolls in every run and on every machine.
+class SteadyDice : public Dice {
+ public:
+  explicit SteadyDice(std::uint64_t seed) : generator_(seed) {}
+  int Roll(int n) override {
+    return n < 1 ? n : static_cast<int>(generator_() % static_cast<std::uint64_t>(n)) + 1;
+  }
+
+ private:
+  std::mt19937_64 generator_;
+};
+
+// A user who never tires, on a desktop whose clock runs as fast as he does. Each season the best
+// man of a position leads and the other trains; in the draft he lets his weakest man go and takes
+// the best of the pool.
+class Coach : public HeadlessDesktop {
+ public:
+  Coach(std::uint64_t seed, const std::string& app_path)
+      : dice_(seed), program_(*this, dice_, app_path) {}
+
+  // Makes a new world and begins in "Rank F" with a rolled team.
+  void BeginFranchise();
+  // From "Week 1" by "Sim", the results and the draft to the next "Week 1".
+  void PlayYear();
+
+  Program& program() { return program_; }
+
+  void Wait() override;
+  void WaitFor(Time at_most) override { PassTime(at_most); }
+  Answer ShowBox(const MessageBox& box) override;
+  std::string AskText(const std::string& prompt) override;
+
+ private:
+  // Leaves a press that waits for good for the file of an opponent who has moved. All that the
+  // press had to do is done by then.
+  struct PressLeftOpen {};
+
+  void SetLines();
+  void TakeTurnInDraft();
+
+  SteadyDice dice_;
+  Program program_;
+};
+
+}  // namespace frostmark

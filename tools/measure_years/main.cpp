@@ -1,0 +1,73 @@
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <iostream>
+
+#include "tools/measure_years/coach.h"
+#include "tools/measure_years/yearbook.h"
+
+namespace frostmark {
+namespace {
+
+namespace fs = std::filesystem;
+
+// A program's folder with its empty leagues, for the time of the run.
+class WorldFolder {
+ public:
+  WorldFolder() {
+    path_ = (fs::temp_directory_path() / "frostmark-years-XXXXXX").string();
+    if (mkdtemp(path_.data()) == nullptr) throw std::runtime_error("no temporary folder");
+    for (const char* rank : kRanks) fs::create_directories(path_ + "/Teams/" + rank);
+    fs::create_directories(path_ + "/Settings");
+  }
+  WorldFolder(const WorldFolder&) = delete;
+  WorldFolder& operator=(const WorldFolder&) = delete;
+  ~WorldFolder() {
+    std::error_code ignored;
+    fs::remove_all(path_, ignored);
+  }
+  const std::string& path() const { return path_; }
+
+ private:
+  std::string path_;
+};
+
+void Run(int years, int seed) {
+  const WorldFolder world;
+  Coach coach(static_cast<std::uint64_t>(seed), world.path());
+  Yearbook yearbook;
+  coach.BeginFranchise();
+  yearbook.NoteRosters(coach.program());
+  for (int year = 0; year < years; ++year) {
+    coach.PlayYear();
+    yearbook.NoteSeason(coach.program());
+    yearbook.NoteRosters(coach.program());
+  }
+  std::cout << "# What " << years << " years come to\n\n"
+            << "Made by `tools/measure-years` with the dice of seed " << seed
+            << ", so that a change of a rule shows here. The user's team\n"
+               "begins in \"Rank F\"; each season the best man of a position leads and the other "
+               "trains, and in the\ndraft the weakest man goes and the best of the pool comes.\n\n";
+  yearbook.Print(std::cout);
+}
+
+}  // namespace
+}  // namespace frostmark
+
+int main(int count, char** arguments) {
+  const int years = count > 1 ? std::atoi(arguments[1]) : 200;
+  const int seed = count > 2 ? std::atoi(arguments[2]) : 1;
+  if (count > 3 || years < 1) {
+    (void)std::fputs("usage: frostmark-measure-years [YEARS [SEED]]\n", stderr);
+    return 2;
+  }
+  try {
+    frostmark::Run(years, seed);
+  } catch (const std::exception& error) {
+    (void)std::fprintf(stderr, "%s\n", error.what());
+    return 1;
+  }
+  return 0;
+}
