@@ -57,6 +57,33 @@ TEST_F(PicksTest, TheScreenOfTheReleaseStartsAsDesigned) {
   EXPECT_EQ(choice().on_close(), Screen::OnClose::kNothing);
 }
 
+// Counts how often a screen is to be dragged.
+class DragCount : public Screen::Observer {
+ public:
+  explicit DragCount(Screen& screen) : screen_(screen) { screen_.SetObserver(this); }
+  ~DragCount() override { screen_.SetObserver(nullptr); }
+  void ScreenChanged(Screen&) override {}
+  void DragRequested(Screen&) override { ++drags; }
+  int drags = 0;
+
+ private:
+  Screen& screen_;
+};
+
+TEST_F(PicksTest, TheScreensAreDraggedByTheirSurfaceAndTheirTabs) {
+  const std::pair<Screen*, TabStrip*> screens[] = {
+      {&program().f_results, &program().f_results.XTab1},
+      {&draft(), &draft().XTab1},
+      {&choice(), &choice().XTab1},
+      {&program().game, &program().game.XTab1}};
+  for (const auto& [screen, tabs] : screens) {
+    const DragCount count(*screen);
+    Raise(screen->OnMouseDown);
+    Raise(tabs->OnMouseDown);
+    EXPECT_EQ(count.drags, 2) << screen->Name();
+  }
+}
+
 TEST_F(PicksTest, WithoutARetirementTheUserIsAskedWhomToLetGo) {
   Lines roster = RosterOfAges(Ages(11, 30));
   std::reverse(roster.begin(), roster.end());  // in the file's order, unsorted

@@ -268,6 +268,19 @@ TEST_F(GameScreenTest, AGameIsThreePeriodsOfTwoHundredSteps) {
   EXPECT_EQ(ItemsOf(game().Events), events);
 }
 
+TEST_F(GameScreenTest, ATickNeverStartsInsideAnother) {
+  SetUpMatch();
+  Raise(game().HighButton1.OnClick);
+  for (int yield = 0; yield < 3; ++yield) {
+    desktop().AtYield([this] {
+      desktop().PassTime(std::chrono::seconds(1));
+      EXPECT_EQ(game().Period1.Value(), 1);
+    });
+  }
+  desktop().PassTime(std::chrono::milliseconds(100));
+  EXPECT_EQ(game().Period1.Value(), 1);
+}
+
 TEST_F(GameScreenTest, TheResultIsAnnouncedByTheTexts) {
   SetUpMatch();
   EXPECT_EQ(Score("3", "2"), "Home Team beat Visitor Team 3 to 2");
