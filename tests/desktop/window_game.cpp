@@ -1,0 +1,54 @@
+#include "tests/desktop/window_game.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+
+#include "tests/desktop/person.h"
+
+namespace frostmark::test {
+
+int RepeatableDice::Roll(int n) {
+  state_ = state_ * 6364136223846793005ULL + 1442695040888963407ULL;
+  return n < 1 ? 1 : static_cast<int>((state_ >> 33U) % static_cast<unsigned int>(n)) + 1;
+}
+
+QuickDesktop::QuickDesktop() : QtDesktop([this](int code) { exit_code_ = code; }) {}
+
+void QuickDesktop::WaitFor(std::chrono::microseconds at_most) {
+  now_ += at_most;
+  QtDesktop::WaitFor(std::chrono::microseconds::zero());
+}
+
+WindowGame::WindowGame() {
+  const QDir folder(folder_.path());
+  folder.mkpath("Settings");
+  for (const char* rank : {"F", "E", "D", "C", "B", "A"}) {
+    folder.mkpath(QString("Teams/Rank %1").arg(rank));
+  }
+  program_ =
+      std::make_unique<Program>(desktop_, dice_, QFile::encodeName(folder_.path()).toStdString());
+}
+
+void WindowGame::Start() {
+  desktop_.guard().Call([this] { program_->Start(); });
+}
+
+void WindowGame::StartFranchise() {
+  Person person;
+  person.AnswerBox(Qt::Key_Return);  // a new world takes a while
+  person.AnswerBox(Qt::Key_Return);  // the file is saved
+  desktop_.guard().Call([this] {
+    program_->startup.PressNew();
+    program_->startup.PressGenerate();
+    program_->startup.PressBegin();
+  });
+}
+
+ScreenWindow& WindowGame::Window(const Screen& screen) const {
+  ScreenWindow* window = desktop_.Window(screen);
+  if (window == nullptr) qFatal("%s has never been shown", screen.Name().c_str());
+  return *window;
+}
+
+}  // namespace frostmark::test

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <QTemporaryDir>
+#include <chrono>
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "desktop/decorations.h"
+#include "desktop/qt_desktop.h"
+#include "desktop/screen_form.h"
+#include "desktop/screen_window.h"
+#include "records/dice.h"
+#include "shell/program.h"
+
+namespace frostmark::test {
+
+// Dice that fall the same way at every start.
+class RepeatableDice : public Dice {
+ public:
+  int Roll(int n) override;
+
+ private:
+  std::uint64_t state_ = 1;
+};
+
+// The real desktop, boxes and all, but with a clock of its own: where the game waits for a length
+// of time, that time has passed at once. The end of the program only leaves its exit code behind.
+class QuickDesktop : public QtDesktop {
+ public:
+  QuickDesktop();
+
+  void WaitFor(std::chrono::microseconds at_most) override;
+  std::chrono::microseconds SinceMidnight() override { return now_; }
+
+  // The exit code, or -1 as long as the program has not ended.
+  int ExitCode() const { return exit_code_; }
+
+ private:
+  std::chrono::microseconds now_ = std::chrono::hours(12);
+  int exit_code_ = -1;
+};
+
+// A whole game in windows, in a folder of its own with the empty league folders.
+class WindowGame {
+ public:
+  WindowGame();
+
+  // Starts the program: the start screen is on view afterwards.
+  void Start();
+  // Takes the short way, without windows' help, to a franchise in its first week.
+  void StartFranchise();
+
+  Program& program() { return *program_; }
+  QuickDesktop& desktop() { return desktop_; }
+  QString Folder() const { return folder_.path(); }
+
+  ScreenWindow& Window(const Screen& screen) const;
+
+  // The widget called NAME in the window of SCREEN, which must have been shown.
+  template <class Widget>
+  Widget& On(const Screen& screen, const char* name) const {
+    return Part<Widget>(Window(screen).form(), name);
+  }
+
+ private:
+  QTemporaryDir folder_;
+  QuickDesktop desktop_;
+  RepeatableDice dice_;
+  std::unique_ptr<Program> program_;
+};
+
+}  // namespace frostmark::test
