@@ -1,6 +1,7 @@
 // Time, answers, rolls, lists and variables, procedures by name, and the console itself.
 #include <array>
 #include <cmath>
+#include <vector>
 
 #include "console/calls.h"
 #include "console/commands.h"
@@ -65,9 +66,11 @@ void ForgetAnswers(Console& console, Words& words) {
 }
 
 void QueueRolls(Console& console, Words& words) {
+  std::vector<int> results;
   do {
-    console.dice.Queue(words.NextNumber("a roll"));
+    results.push_back(words.NextNumber("a roll"));
   } while (!words.AtEnd());
+  for (const int result : results) console.dice.Queue(result);
 }
 
 void Trace(Console& console, Words& words) {
