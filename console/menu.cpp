@@ -68,12 +68,18 @@ void AddControl(const Screen& screen, Control& control, std::vector<MenuEntry>& 
 
 std::vector<MenuEntry> MenuOf(const ScreenList& screens) {
   std::vector<MenuEntry> menu;
-  for (const Screen* screen : screens.VisibleOnes()) {
+  const std::vector<Screen*> visible = screens.VisibleOnes();
+  for (const Screen* screen : visible) {
+    const std::size_t first = menu.size();
     for (Control* control : screen->Controls()) {
       if (InSight(*control) && control->Enabled()) AddControl(*screen, *control, menu);
     }
     if (screen->border() == Screen::Border::kTitleBar) {
-      menu.push_back({"Close " + screen->Caption(), "close " + screen->Name(), Asks::kNothing});
+      menu.push_back({"Close", "close " + screen->Name(), Asks::kNothing});
+    }
+    if (visible.size() == 1) continue;
+    for (std::size_t i = first; i < menu.size(); ++i) {
+      menu[i].words = TitleFor(*screen) + ": " + menu[i].words;
     }
   }
   return menu;

@@ -17,8 +17,8 @@ Prompt::Prompt(Program& program, Transcript& transcript, CommandSource& source)
     : program_(program),
       transcript_(transcript),
       source_(source),
-      game_news_(program.game.Events, *this),
-      draft_news_(program.f_draft.Events, *this) {
+      game_news_(program.game.Events, true, *this),
+      draft_news_(program.f_draft.Events, false, *this) {
   program.game.Events.SetObserver(&game_news_);
   program.f_draft.Events.SetObserver(&draft_news_);
   transcript_.Line(

@@ -31,8 +31,12 @@ class Prompt {
   // Prints each line that is added to a list.
   class News : public RecordList::Observer {
    public:
-    News(const RecordList& list, Prompt& prompt) : list_(list), prompt_(prompt) {}
-    void ItemInserted(int index) override { prompt_.Tell(list_.List(index)); }
+    News(const RecordList& list, bool newest_on_top, Prompt& prompt)
+        : list_(list), newest_on_top_(newest_on_top), prompt_(prompt) {}
+    // What comes at the bottom of a list with its newest line on top is out of view.
+    void ItemInserted(int index) override {
+      if (index == 0 || !newest_on_top_) prompt_.Tell(list_.List(index));
+    }
     void ItemRemoved(int /*index*/) override {}
     void ItemChanged(int /*index*/) override {}
     void Cleared() override {}
@@ -40,6 +44,7 @@ class Prompt {
 
    private:
     const RecordList& list_;
+    bool newest_on_top_;
     Prompt& prompt_;
   };
 
