@@ -1,5 +1,6 @@
 #include "tests/replay/differences.h"
 
+#include <array>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -105,6 +106,17 @@ Variables AllVariables(const Program& program, const reference::ReferenceGame& r
                                        std::to_string(reference.cancel_visible)};
   all["Game.FranchiseMatch"] = {std::to_string(program.game.FranchiseMatch),
                                 std::to_string(reference.franchise_match)};
+  const std::array<const ProgressBar*, 3> bars = {&program.game.Period1, &program.game.Period2,
+                                                  &program.game.Period3};
+  const std::array<const Timer*, 3> timers = {&program.game.Timer1, &program.game.Timer2,
+                                              &program.game.Timer3};
+  for (std::size_t period = 1; period <= 3; ++period) {
+    const std::string number = std::to_string(period);
+    all["Game.Period" + number] = {std::to_string(bars[period - 1]->Value()),
+                                   std::to_string(reference.period_steps.at(period))};
+    all["Game.Timer" + number + " enabled"] = {std::to_string(timers[period - 1]->Enabled()),
+                                               std::to_string(reference.timer_runs.at(period))};
+  }
   all["FDraft.ReleasedPlayer"] = {program.f_draft.ReleasedPlayer, reference.released_player};
   return all;
 }

@@ -21,6 +21,10 @@ class ProcedureReplay : public testing::TestWithParam<std::uint64_t> {
     Fill(replay.program().franchise.Team1, roster);
     replay.reference().lists["Franchise.Team1"] = roster;
   }
+  void GiveSecondTeam(const reference::Lines& roster) {
+    Fill(replay.program().franchise.Team2, roster);
+    replay.reference().lists["Franchise.Team2"] = roster;
+  }
   void SetCaption(Label& label, const std::string& name, const std::string& text) {
     label.SetCaption(text);
     replay.reference().captions[name] = text;
@@ -134,27 +138,35 @@ TEST_P(ProcedureReplay, StandingsOfAnyRecords) {
   }
 }
 
+void SimulateGame(Program& program) {
+  program.game_simulation.LoadGameLines(program.franchise.Team1, program.franchise.Team2);
+  program.game_simulation.SimulateGame();
+}
+
+void SimulateGameByRules(ReferenceGame& rules) {
+  rules.unwatched.LoadGameLines(rules.lists["Franchise.Team1"], rules.lists["Franchise.Team2"]);
+  rules.unwatched.SimulateGame(rules.rolls);
+  rules.score1 = rules.unwatched.goals_team1;
+  rules.score2 = rules.unwatched.goals_team2;
+}
+
 TEST_P(ProcedureReplay, UnwatchedGamesOfOddLines) {
-  Franchise& franchise = replay.program().franchise;
   for (int round = 0; round < 8 && !replay.Over(); ++round) {
     reference::Lines team1 = OddRoster(whim, 8, 14);
     if (round == 7) SpoilOne(whim, team1);
-    const reference::Lines team2 = OddRoster(whim, 8, 14);
     GiveTeam(team1);
-    Fill(franchise.Team2, team2);
-    replay.reference().lists["Franchise.Team2"] = team2;
-    DoTogether(
-        "SimulateGame, round " + std::to_string(round),
-        [](Program& program) {
-          program.game_simulation.LoadGameLines(program.franchise.Team1, program.franchise.Team2);
-          program.game_simulation.SimulateGame();
-        },
-        [=](ReferenceGame& rules) {
-          rules.unwatched.LoadGameLines(team1, team2);
-          rules.unwatched.SimulateGame(rules.rolls);
-          rules.score1 = rules.unwatched.goals_team1;
-          rules.score2 = rules.unwatched.goals_team2;
-        });
+    GiveSecondTeam(OddRoster(whim, 8, 14));
+    DoTogether("SimulateGame, round " + std::to_string(round), SimulateGame, SimulateGameByRules);
+  }
+}
+
+// A team that wins a face-off without a man for it has the puck and no carrier.
+TEST_P(ProcedureReplay, UnwatchedGamesWithoutMenForTheFaceOff) {
+  for (int round = 0; round < 8 && !replay.Over(); ++round) {
+    GiveTeam(WithoutPositions(ProperRoster(whim), {"CF", "RF"}));
+    GiveSecondTeam(round % 2 == 0 ? WithoutPositions(ProperRoster(whim), {"CF"})
+                                  : WithoutPositions(ProperRoster(whim), {"CF", "RF", "LD"}));
+    DoTogether("SimulateGame, round " + std::to_string(round), SimulateGame, SimulateGameByRules);
   }
 }
 

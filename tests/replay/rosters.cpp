@@ -69,6 +69,14 @@ reference::Lines OddRoster(Whim& whim, int fewest, int most) {
   return roster;
 }
 
+reference::Lines WithoutPositions(reference::Lines roster, const reference::Lines& positions) {
+  std::erase_if(roster, [&](const std::string& record) {
+    const std::string position = reference::GetField(record, "Position");
+    return std::find(positions.begin(), positions.end(), position) != positions.end();
+  });
+  return roster;
+}
+
 void SpoilOne(Whim& whim, reference::Lines& roster) {
   std::string& record = roster[static_cast<std::size_t>(Between(whim, 0, 99)) % roster.size()];
   reference::Lines parts = reference::SplitAt(record, ',');

@@ -26,6 +26,9 @@ reference::Lines ProperRoster(Whim& whim, int lowest, int highest);
 // A roster that a user or an editor may leave: shuffled, a few players more, fewer or elsewhere.
 reference::Lines OddRoster(Whim& whim, int fewest, int most);
 
+// ROSTER without the men of POSITIONS.
+reference::Lines WithoutPositions(reference::Lines roster, const reference::Lines& positions);
+
 // Makes the Shooting or the Defense of one player no number.
 void SpoilOne(Whim& whim, reference::Lines& roster);
 

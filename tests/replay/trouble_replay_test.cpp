@@ -22,6 +22,11 @@ class TroubleReplay : public testing::TestWithParam<std::uint64_t> {
     return reference::ItemOf(replay.reference().shelf.List(replay.AppPath() + "/Teams/" + rank), i);
   }
 
+  void TakeNameOf(const std::string& other) {
+    const std::size_t blank = other.find(' ');
+    DoCreateTeam(replay, other.substr(0, blank), other.substr(blank + 1));
+  }
+
   Replay replay;
 };
 
@@ -48,14 +53,20 @@ TEST_P(TroubleReplay, ANameThatIsALeague) {
   replay.Run();
 }
 
-// The league then has five teams: its first game without an opponent never begins, and when the
-// season is cut short there is no last team to name.
+// The league then has five teams. Its first game without an opponent never begins.
 TEST_P(TroubleReplay, ANameThatIsTaken) {
   replay.Run();
-  const std::string other = TeamOf("Rank F", 0);
-  const std::size_t blank = other.find(' ');
-  DoCreateTeam(replay, other.substr(0, blank), other.substr(blank + 1));
-  if (GetParam() % 2 == 0) DoTesting(replay);
+  TakeNameOf(TeamOf("Rank F", 0));
+  DoBegin(replay);
+  replay.Run();
+}
+
+// Below "Rank F" there is no league, so that a fifth team is all that its end of season needs: the
+// loser who is not there is merely named, by the empty text.
+TEST_P(TroubleReplay, ASeasonCutShortWithFiveTeamsInRankF) {
+  replay.Run();
+  TakeNameOf(TeamOf("Rank F", 0));
+  DoTesting(replay);
   DoBegin(replay);
   replay.Run();
 }
@@ -81,7 +92,8 @@ TEST_P(TroubleReplay, SimAnswers) {
   replay.Run();
 }
 
-// A second franchise in one run stands on the lists of the first.
+// A second franchise in one run stands on the lists of the first. Its name in small letters has its
+// place in the alphabet all the same.
 TEST_P(TroubleReplay, TwoFranchisesInOneRun) {
   DoCreateTeam(replay, "Montreal", "Breeze");
   DoSim(replay, "3");
@@ -90,7 +102,7 @@ TEST_P(TroubleReplay, TwoFranchisesInOneRun) {
   replay.Answer("yes");
   DoNew(replay);
   DoGenerate(replay);
-  DoCreateTeam(replay, "Quebec", "Snow");
+  DoCreateTeam(replay, "denver", "snow");
   DoSim(replay, "3");
   DoSave(replay);
   DoLoad(replay);

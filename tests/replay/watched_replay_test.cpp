@@ -91,6 +91,16 @@ TEST_P(WatchedReplay, OddLines) {
   replay.Run();
 }
 
+// Without a centre the winner of a face-off is nobody: passes from nobody, or the end of the
+// program when nobody is to shoot.
+TEST_P(WatchedReplay, NoCentre) {
+  Whim whim(GetParam());
+  Replay replay(GetParam());
+  PutTeams(replay, WithoutPositions(ProperRoster(whim), {"CF"}), ProperRoster(whim));
+  QueueGame(replay);
+  replay.Run();
+}
+
 // Goals of two digits: the result is announced by text, not by number.
 TEST_P(WatchedReplay, HighScores) {
   Whim whim(GetParam());
