@@ -141,6 +141,16 @@ TEST_F(GameScreenTest, EveryRatingStandsAtItsPlayersPlace) {
   EXPECT_EQ(game().hLFor.Caption(), "76");
 }
 
+TEST_F(GameScreenTest, OnlyPlayersWithNComeOntoTheIce) {
+  for (const char* training : {"", "n", "X", "NN"}) {
+    home.AddItem(MakeRecord({.name = "Spectator", .training = training}));
+  }
+  SetUpMatch();
+  EXPECT_EQ(game().Line1Stats.ListCount(), 6);
+  EXPECT_EQ(game().Line1.ListCount(), 6);
+  EXPECT_EQ(desktop().Yields(), 15 + 11);
+}
+
 TEST_F(GameScreenTest, ARatingWithoutItsPlayerKeepsTheLastOne) {
   SetUpMatch();
   RecordList short_line;
@@ -353,6 +363,8 @@ TEST_F(GameScreenTest, TheCloseMarkAbandonsTheGameAndKeepsTheFranchiseWaiting) {
     Raise(game().HighButton1.OnClick);
     desktop().PassTime(std::chrono::seconds(1));
     game().HighButton2.Show();
+    game().Timer2.Enable();
+    game().Timer3.Enable();
     Raise(game().Label5.OnClick);
     EXPECT_EQ(RunningTimers(), Lines{});
     for (const Label* label : {&game().GVisitor, &game().GHome, &game().Label3, &game().Label4}) {

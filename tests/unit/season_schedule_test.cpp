@@ -101,6 +101,14 @@ TEST_F(ScheduleTest, GenScheduleReadsTheFoldersAndStartsAtWeekOne) {
   EXPECT_EQ(Opponent(), (Lines{"F3 Wolves", "77", "77", "77"}));
 }
 
+TEST_F(ScheduleTest, GenScheduleForgetsTheLastOpponentsRoster) {
+  ASSERT_EQ(franchise().tempList.ListCount(), 11);
+  franchise().TeamName.SetCaption("nobody's team");
+  franchise().GenSchedule();
+  EXPECT_EQ(franchise().tempList.ListCount(), 0);
+  EXPECT_EQ(franchise().OppOffense.Caption(), "0");
+}
+
 TEST_F(ScheduleTest, EveryWeekShowsItsOpponent) {
   // "F0 Wolves" stands at position 0.
   const char* const opponents[] = {"F3 Wolves", "F1 Wolves", "F4 Wolves", "F2 Wolves", "F5 Wolves"};
@@ -199,7 +207,9 @@ TEST_F(ScheduleTest, AShortLeagueLeavesTheUserWithoutAnOpponent) {
 
 TEST_F(ScheduleTest, FindOpponentTakesBothSidesInTurn) {
   franchise().TeamName.SetCaption("F1 Wolves");
+  const auto reads = ordvik().counts().file_reads;
   franchise().FindOpponent("F1 Wolves", "F1 Wolves", "F");
+  EXPECT_EQ(ordvik().counts().file_reads - reads, 2);
   EXPECT_EQ(franchise().OppTeam.Caption(), "F1 Wolves");
   EXPECT_EQ(franchise().tempList.ListCount(), 11);
   // An unknown letter empties the roster and names the opponent all the same.

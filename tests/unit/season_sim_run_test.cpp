@@ -130,6 +130,20 @@ TEST_F(SimRunTest, DuringARunTheCancelButtonShows) {
   Sim("2");
 }
 
+TEST_F(SimRunTest, BetweenTwoPressesARunYields) {
+  // The same week twice, with the same dice: once by a press, once by a run of one press.
+  franchise().SimRunning = true;
+  auto before = desktop().Yields();
+  Raise(franchise().HighButton1.OnClick);
+  const auto press = desktop().Yields() - before;
+  Restart();
+  world.FillWorld();
+  TakeOver("Rank F", "F0 Wolves");
+  before = desktop().Yields();
+  Sim("2");
+  EXPECT_EQ(desktop().Yields() - before, press + 1);
+}
+
 TEST_F(SimRunTest, CancelEndsTheRunBehindTheWeekBeingPlayed) {
   When([this] { return GamesPlayed() == 7; },
        [this] {
