@@ -83,7 +83,7 @@ class DraftInWindows : public testing::Test {
 TEST_F(DraftInWindows, TheUsersTurnByMouse) {
   std::string picked;
   {
-    Person person;
+    Person person(game_.desktop());
     const auto let_go = [this] {
       EXPECT_EQ(OpenList(), -1) << "nothing is open before somebody has left";
       Person::DoubleClickRow(List(select(), "List1"), 3);
@@ -113,7 +113,7 @@ TEST_F(DraftInWindows, TheUsersTurnByMouse) {
   const std::string name = picked.substr(0, picked.rfind(' '));
 
   {
-    Person person;
+    Person person(game_.desktop());
     person.ClickInBox("OK");  // the file is saved
     Person::Click(Button(draft(), "Command1"));
   }
@@ -131,7 +131,7 @@ TEST_F(DraftInWindows, TheUsersTurnByMouse) {
 
 TEST_F(DraftInWindows, TheUsersTurnByKeyboardAlone) {
   {
-    Person person;
+    Person person(game_.desktop());
     // The list of the team has the keyboard as soon as it comes up, the open list of the pool as
     // soon as it opens: nobody has to look for them.
     person.When(
@@ -156,7 +156,7 @@ TEST_F(DraftInWindows, TheUsersTurnByKeyboardAlone) {
   Settle();
   ExpectNothingLit();
   {
-    Person person;
+    Person person(game_.desktop());
     person.AnswerBox(Qt::Key_Return);
     // So has the button on to the new season.
     EXPECT_EQ(Person::Focus()->objectName(), "Command1");
@@ -168,7 +168,7 @@ TEST_F(DraftInWindows, TheUsersTurnByKeyboardAlone) {
 
 TEST_F(DraftInWindows, ADoubleClickOutOfTurnIsNoPickAndTheHistoryFollows) {
   {
-    Person person;
+    Person person(game_.desktop());
     person.When(
         "some history", [this] { return draft().Events.ListCount() > 20 && !draft().AwaitingPick; },
         [this] {

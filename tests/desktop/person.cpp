@@ -5,7 +5,6 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
-#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QListView>
 #include <QPointer>
@@ -13,11 +12,15 @@
 #include <QTimer>
 #include <QtTest>
 
+#include "tests/desktop/window_game.h"
+
 namespace frostmark::test {
 
 namespace {
 
 constexpr int kMostTabs = 80;
+constexpr int kRoundsUntilActivation = 20;
+constexpr int kPatienceMs = 10000;
 
 bool BoxIsUp() {
   const QWidget* box = QApplication::activeModalWidget();
@@ -60,13 +63,19 @@ void ActivateSomeWindow() {
 
 }  // namespace
 
-Person::Person() { LookAroundSoon(); }
+Person::Person(QuickDesktop& desktop) : desktop_(desktop) {
+  patience_.start();
+  LookAroundSoon();
+}
 
 Person::~Person() {
-  QElapsedTimer patience;
-  patience.start();
-  while (!Done() && patience.elapsed() < 5000) QTest::qWait(1);
-  for (const Deed& deed : deeds_) ADD_FAILURE() << "it never came to: " << deed.what.toStdString();
+  while (!Done()) QTest::qWait(1);
+}
+
+void Person::GiveUp() {
+  ADD_FAILURE() << "it never came to: " << deeds_.front().what.toStdString();
+  deeds_.clear();
+  desktop_.guard().Call([this] { desktop_.EndProgram(); });
 }
 
 void Person::When(const QString& what, std::function<bool()> ready, std::function<void()> deed) {
@@ -81,12 +90,20 @@ void Person::LookAroundSoon() {
 void Person::LookAround() {
   LookAroundSoon();
   NoteActiveWindow();
-  ActivateSomeWindow();
-  if (deeds_.empty() || !deeds_.front().ready()) return;
+  // A window that is just being shown gets the keyboard by itself, a little later.
+  rounds_without_window_ = QApplication::activeWindow() == nullptr ? rounds_without_window_ + 1 : 0;
+  if (rounds_without_window_ > kRoundsUntilActivation) ActivateSomeWindow();
+  if (deeds_.empty()) return;
+  if (!deeds_.front().ready()) {
+    if (patience_.elapsed() > kPatienceMs) GiveUp();
+    return;
+  }
   // Taken off first: the deed may run the event loop and so come back here.
   const Deed next = std::move(deeds_.front());
   deeds_.pop_front();
+  patience_.restart();
   next.deed();
+  patience_.restart();
 }
 
 void Person::AnswerBox(Qt::Key key, const QString& text) {
@@ -108,6 +125,7 @@ void Person::ClickInBox(const QString& caption, const QString& text) {
 }
 
 QWidget* Person::Focus() {
+  if (QApplication::activeWindow() == nullptr) Settle();
   if (QApplication::activeWindow() == nullptr) {
     ActivateSomeWindow();
     Settle();

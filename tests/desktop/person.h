@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QString>
 #include <deque>
@@ -10,12 +11,16 @@ class QWidget;
 
 namespace frostmark::test {
 
+class QuickDesktop;
+
 // Somebody at the mouse and the keyboard. What is to be done while the game is deep in a procedure
 // of its own (answering its boxes, playing its match, choosing in the draft) is told beforehand:
 // one thing after the other, each as soon as it can be done.
 class Person {
  public:
-  Person();
+  // Ends the program on DESKTOP when it does not come to something for seconds, so that a procedure
+  // that waits for it does not wait for ever.
+  explicit Person(QuickDesktop& desktop);
   // Everything told must have been done by then.
   ~Person();
   Person(const Person&) = delete;
@@ -53,8 +58,12 @@ class Person {
 
   void LookAroundSoon();
   void LookAround();
+  void GiveUp();
 
   std::deque<Deed> deeds_;
+  QuickDesktop& desktop_;
+  QElapsedTimer patience_;
+  int rounds_without_window_ = 0;
   QObject here_;
 };
 

@@ -35,7 +35,7 @@ void WindowGame::Start() {
 }
 
 void WindowGame::StartFranchise() {
-  Person person;
+  Person person(desktop_);
   person.AnswerBox(Qt::Key_Return);  // a new world takes a while
   person.AnswerBox(Qt::Key_Return);  // the file is saved
   desktop_.guard().Call([this] {
