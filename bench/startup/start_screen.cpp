@@ -1,0 +1,21 @@
+#include <QApplication>
+#include <QFile>
+
+#include "bench/startup/end_at_first_frame.h"
+#include "desktop/qt_desktop.h"
+#include "desktop/style.h"
+#include "records/dice.h"
+#include "shell/program.h"
+
+// The start of the desktop program, up to its first frame.
+int main(int argc, char** argv) {
+  const QApplication application(argc, argv);
+  const frostmark::EndAtFirstFrame end;
+  frostmark::DressApplication();
+  frostmark::QtDesktop desktop;
+  frostmark::ClockDice dice;
+  const QByteArray folder = QFile::encodeName(QApplication::applicationDirPath());
+  frostmark::Program program(desktop, dice, folder.toStdString());
+  desktop.guard().Call([&] { program.Start(); });
+  return QApplication::exec();
+}
