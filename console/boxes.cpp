@@ -31,9 +31,20 @@ bool Means(const std::string& text, const std::string& word) {
 
 }  // namespace
 
+// A person reads the text in the lines that it has.
+void ConsoleDesktop::PrintBox(std::string_view text) {
+  std::size_t end = text.find('\n');
+  while (interactive_ && end != std::string_view::npos) {
+    transcript_.Line(text.substr(0, end));
+    text.remove_prefix(end + 1);
+    end = text.find('\n');
+  }
+  transcript_.Line(text);
+}
+
 Answer ConsoleDesktop::ShowBox(const MessageBox& box) {
-  transcript_.Line(std::string("box ") + IconWord(box.icon) + " " + ButtonWords(box.buttons) +
-                   ": " + box.text);
+  PrintBox(std::string("box ") + IconWord(box.icon) + " " + ButtonWords(box.buttons) + ": " +
+           box.text);
   if (box.buttons == BoxButtons::kOk) {
     if (!Answers().empty() && Answers().front() == "ok") {
       TakeAnswer();

@@ -72,6 +72,7 @@ class ConsoleDesktop : public HeadlessDesktop {
   void SyncClock();
   void WaitForCommand(Time limit);
 
+  void PrintBox(std::string_view text);
   std::optional<std::string> AskPerson(const char* prompt);
   Answer AskPersonBox();
 
