@@ -104,7 +104,7 @@ void PlayerDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option
 
 QSize PlayerDelegate::sizeHint(const QStyleOptionViewItem& option,
                                const QModelIndex& /*index*/) const {
-  return {0, row::Height(option)};
+  return {0, qRound(row::Height(option) * row_stretch_)};
 }
 
 }  // namespace frostmark

@@ -12,9 +12,15 @@ class PlayerDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
 
+  // Makes the rows TIMES as high as those of other lists.
+  void StretchRows(double times) { row_stretch_ = times; }
+
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override;
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+ private:
+  double row_stretch_ = 1;
 };
 
 }  // namespace frostmark

@@ -64,7 +64,7 @@ void TeamDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
 
 QSize TeamDelegate::sizeHint(const QStyleOptionViewItem& option,
                              const QModelIndex& /*index*/) const {
-  return {0, row::Height(option)};
+  return {0, qRound(row::Height(option) * row_stretch_)};
 }
 
 }  // namespace frostmark

@@ -17,6 +17,9 @@ class TeamDelegate : public QStyledItemDelegate {
   // OWN_TEAM is asked at every painting.
   TeamDelegate(League league, std::function<QString()> own_team, QObject* parent);
 
+  // Makes the rows TIMES as high as those of other lists.
+  void StretchRows(double times) { row_stretch_ = times; }
+
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override;
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
@@ -24,6 +27,7 @@ class TeamDelegate : public QStyledItemDelegate {
  private:
   League league_;
   std::function<QString()> own_team_;
+  double row_stretch_ = 1;
 };
 
 }  // namespace frostmark

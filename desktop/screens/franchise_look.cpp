@@ -22,22 +22,30 @@ namespace {
 constexpr std::array kStandings = {"StatRankF", "StatRankE", "StatRankD",
                                    "StatRankC", "StatRankB", "StatRankA"};
 
+// Six teams or players have the room of a page to themselves.
+constexpr double kStandingsStretch = 1.5;
+constexpr double kRosterStretch = 1.25;
+
 void DressStandings(const Franchise& screen, ScreenForm& form) {
   for (std::size_t i = 0; i < kStandings.size(); ++i) {
     const League league = i == 0                       ? League::kBottom
                           : i + 1 == kStandings.size() ? League::kTop
                                                        : League::kMiddle;
     auto& list = Part<ListView>(form, kStandings[i]);
-    list.setItemDelegate(new TeamDelegate(league, OwnTeam(screen), &list));
-    GiveRoom(list, 44, 6);
+    auto* delegate = new TeamDelegate(league, OwnTeam(screen), &list);
+    delegate->StretchRows(kStandingsStretch);
+    list.setItemDelegate(delegate);
+    GiveRoom(list, 44, 9);
   }
 }
 
 void DressRoster(ScreenForm& form) {
   for (const char* name : {"MainRoster", "TrainingRoster"}) {
     auto& list = Part<ListView>(form, name);
-    list.setItemDelegate(new PlayerDelegate(&list));
-    GiveRoom(list, 46, 8);
+    auto* delegate = new PlayerDelegate(&list);
+    delegate->StretchRows(kRosterStretch);
+    list.setItemDelegate(delegate);
+    GiveRoom(list, 46, 10);
   }
 }
 

@@ -13,6 +13,21 @@ int FixedDice::Roll(int n) {
   return n < 1 ? 1 : static_cast<int>((state_ >> 33U) % static_cast<unsigned int>(n)) + 1;
 }
 
+void WillingDesktop::Wait() {
+  if (while_waiting) {
+    while_waiting();
+    QApplication::processEvents();
+  } else {
+    QtDesktop::Wait();
+  }
+}
+
+void WillingDesktop::WaitFor(std::chrono::microseconds at_most) {
+  now_ += at_most;
+  if (while_waiting) while_waiting();
+  QApplication::processEvents();
+}
+
 Answer WillingDesktop::ShowBox(const MessageBox& box) {
   return box.buttons == BoxButtons::kYesNo ? Answer::kYes : Answer::kOk;
 }

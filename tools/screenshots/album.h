@@ -1,7 +1,10 @@
 #pragma once
 
 #include <QTemporaryDir>
+#include <chrono>
 #include <cstdint>
+#include <functional>
+#include <memory>
 #include <string>
 
 #include "desktop/qt_desktop.h"
@@ -19,11 +22,21 @@ class FixedDice : public Dice {
   std::uint64_t state_ = 20;
 };
 
-// A desktop on which every question is answered with Yes before anybody sees it.
+// A desktop on which every question is answered with Yes before anybody sees it, and on which the
+// time that the game waits for has passed at once.
 class WillingDesktop : public QtDesktop {
  public:
+  // What somebody does while the game waits, for the clock or for him.
+  std::function<void()> while_waiting;
+
+  void Wait() override;
+  void WaitFor(std::chrono::microseconds at_most) override;
+  std::chrono::microseconds SinceMidnight() override { return now_; }
   Answer ShowBox(const MessageBox& box) override;
   std::string AskText(const std::string& prompt) override;
+
+ private:
+  std::chrono::microseconds now_ = std::chrono::hours(12);
 };
 
 // A game in a folder of its own that is played for its pictures.
@@ -33,7 +46,7 @@ class Album {
   explicit Album(QString out);
 
   Program& program() { return *program_; }
-  QtDesktop& desktop() { return desktop_; }
+  WillingDesktop& desktop() { return desktop_; }
 
   // Saves the window of SCREEN as OUT/NAME.png.
   void Take(const Screen& screen, const QString& name);

@@ -1,7 +1,96 @@
+#include <QListView>
+
+#include "desktop/decorations.h"
+#include "desktop/screen_form.h"
+#include "desktop/screen_window.h"
 #include "tools/screenshots/album.h"
 
 namespace frostmark {
+namespace {
 
-void TakeFranchise(Album& /*album*/) {}
+// Scrolls the news down to the user's own game of the week, which is among the first to be played
+// and so among the last of the news.
+void ShowOwnGame(Album& album) {
+  const Franchise& franchise = album.program().franchise;
+  auto& alerts = Part<QListView>(album.desktop().Window(franchise)->form(), "Alerts");
+  int own = 0;
+  while (franchise.Alerts.List(own).find(franchise.TeamName.Caption()) == std::string::npos) ++own;
+  alerts.scrollTo(alerts.model()->index(own + 3, 0));
+}
+
+// Some weeks into a season: the desk of the franchise, tab by tab, and a player.
+void TakeDesk(Album& album) {
+  Program& program = album.program();
+  Franchise& franchise = program.franchise;
+  Raise(program.startup.HighButton4.OnClick);
+  Raise(program.startup.HighButton7.OnClick);
+  Raise(program.startup.HighButton6.OnClick);
+  franchise.SimRunning = true;
+  for (int week = 1; week < 5; ++week) Raise(franchise.HighButton1.OnClick);
+  album.Take(franchise, "franchise");
+  franchise.XTab1.SetFront(1);
+  ShowOwnGame(album);
+  album.Take(franchise, "franchise-alerts");
+  franchise.XTab1.SetFront(2);
+  album.Take(franchise, "franchise-standings");
+  franchise.XTab1.SetFront(3);
+  franchise.MainRoster.DoubleClick(1);
+  album.Take(program.f_player, "player");
+  Raise(program.f_player.Label5.OnClick);
+  album.Take(franchise, "franchise-roster");
+  franchise.XTab1.SetFront(0);
+}
+
+// Plays the season to its end and looks at the results.
+void TakeResults(Album& album) {
+  Franchise& franchise = album.program().franchise;
+  FResults& results = album.program().f_results;
+  while (!results.Visible()) Raise(franchise.HighButton1.OnClick);
+  album.Take(results, "results");
+  results.XTab1.SetFront(1);
+  album.Take(results, "results-standings");
+  results.XTab1.SetFront(0);
+}
+
+// The user's turn, one step at a time: whom to let go, then whom to take.
+void TakeTurn(Album& album) {
+  FDraft& draft = album.program().f_draft;
+  FSelectDraft& choice = album.program().f_select_draft;
+  if (!draft.AwaitingPick) return;
+  if (choice.Visible()) {
+    album.Take(choice, "draft-let-go");
+    choice.List1.DoubleClick(3);
+    return;
+  }
+  for (ListPair* list : draft.Pool()) {
+    if (!(*list)[0].Enabled()) continue;
+    album.Take(draft, "draft-your-turn");
+    (*list)[0].DoubleClick(0);
+    return;
+  }
+}
+
+void TakeDraft(Album& album) {
+  FDraft& draft = album.program().f_draft;
+  bool others_taken = false;
+  album.desktop().while_waiting = [&] {
+    constexpr int kSomeHistory = 20;
+    if (!others_taken && draft.Events.ListCount() > kSomeHistory) {
+      others_taken = true;
+      album.Take(draft, "draft");
+    }
+    TakeTurn(album);
+  };
+  Raise(album.program().f_results.Command1.OnClick);
+  album.desktop().while_waiting = nullptr;
+}
+
+}  // namespace
+
+void TakeFranchise(Album& album) {
+  TakeDesk(album);
+  TakeResults(album);
+  TakeDraft(album);
+}
 
 }  // namespace frostmark
