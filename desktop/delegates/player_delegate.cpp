@@ -6,6 +6,7 @@
 
 #include "desktop/delegates/player_line.h"
 #include "desktop/delegates/row_painter.h"
+#include "desktop/palette.h"
 #include "desktop/widgets/position_badge.h"
 #include "desktop/widgets/rating_painter.h"
 
@@ -80,7 +81,12 @@ void PaintPlayer(QPainter& painter, const QStyleOptionViewItem& option, const Pl
   QRectF bar(0, 0, bar_width, option.fontMetrics.height() * 0.45);
   bar.moveRight(number.left() - columns.gap * 0.7);
   bar.moveTop(rest.center().y() - bar.height() / 2);
-  PaintRatingBar(painter, bar, player.overall);
+  if (option.state & QStyle::State_Selected) {
+    // The blues of the bars would be lost on the blue of the selection.
+    PaintShare(painter, bar, RatingShare(player.overall), palette::kIce);
+  } else {
+    PaintRatingBar(painter, bar, player.overall);
+  }
 
   rest.setRight(bar.left() - columns.gap * 0.7);
   row::PaintText(painter, rest, player.name, row::TextColor(option));

@@ -23,7 +23,8 @@ void PaintPositionBadge(QPainter& painter, const QRectF& rect, const QString& po
   const QColor color = PositionColor(position);
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(Qt::NoPen);
+  // The edge keeps a blue badge apart from the blue of a selected row.
+  painter.setPen(QPen(color.lighter(135), 1));
   painter.setBrush(color);
   const double radius = rect.height() * 0.28;
   painter.drawRoundedRect(rect, radius, radius);
