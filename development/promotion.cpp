@@ -9,6 +9,7 @@ namespace {
 
 constexpr int kWinner = 0;
 constexpr int kLoser = 5;
+constexpr int kTeamsOfLeague = 6;
 constexpr std::size_t kTop = kRanks.size() - 1;
 
 // FOLDER with every occurrence of the old league's text replaced by the new one's. The whole path
@@ -100,12 +101,20 @@ Franchise::Move Franchise::PlanMove(const std::string& team, std::size_t from,
 }
 
 // Two teams change places across a border, or none does: one of them alone would leave a league of
-// seven and one of five, in which no week can be played. A team may be missing when the tables are
-// older than the folders, after a season's end that was never saved.
+// seven and one of five, in which no week can be played. A team may be missing, or be across
+// already, when the tables are older than the folders: after a season's end that was never saved or
+// a save that was cut off. One alone moves only to set right the balance that a season's end,
+// itself cut off, has left.
 bool Franchise::BorderOpen(std::size_t border) {
   const Move up = PlanMove(FinalPlace(border, kWinner), border, border + 1);
   const Move down = PlanMove(FinalPlace(border + 1, kLoser), border + 1, border);
-  return up.state != MoveState::kLost && down.state != MoveState::kLost;
+  if (up.state == MoveState::kLost || down.state == MoveState::kLost) return false;
+  if (up.state == down.state) return true;
+  int surplus = 0;  // of teams above the border
+  for (std::size_t league = border + 1; league < kRanks.size(); ++league) {
+    surplus += RankLists()[league]->ListCount() - kTeamsOfLeague;
+  }
+  return surplus == (up.state == MoveState::kDone ? 1 : -1);
 }
 
 void Franchise::CrownChampion() {
