@@ -7,7 +7,7 @@ namespace frostmark {
 // neither.
 void UseShippedFonts();
 
-// The same for the two poster faces, which the first screen does without.
+// The same for the two poster faces, which the start screen does without.
 void UsePosterFonts();
 
 }  // namespace frostmark

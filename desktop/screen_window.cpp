@@ -27,6 +27,10 @@ constexpr int kCorner = 14;  // as in the style sheet
 
 // Draws the shadow of CARD, denser below it, as rings of nearly transparent night.
 void PaintShadow(QPainter& painter, const QRect& card) {
+  // What the card covers is left out: it is most of the window, and shading it takes long.
+  const QRect covered = card.adjusted(kCorner, 0, -kCorner, 0);
+  painter.setClipRegion(QRegion(painter.window()) - covered -
+                        card.adjusted(0, kCorner, 0, -kCorner));
   painter.setPen(Qt::NoPen);
   painter.setBrush(QColor(2, 8, 20, 11));
   for (int reach = kShadow - 4; reach > 0; reach -= 2) {
@@ -74,6 +78,7 @@ void ScreenWindow::Follow(QPoint centre) {
     return;
   }
   if (!isVisible()) {
+    if (focusWidget() == nullptr) FocusFirst();
     adjustSize();
     if (!centre.isNull()) {
       QRect at(QPoint(), size());
@@ -88,6 +93,19 @@ void ScreenWindow::Follow(QPoint centre) {
   }
   raise();
   activateWindow();
+}
+
+void ScreenWindow::FocusFirst() {
+  // The keyboard begins at the first thing to do, not at a mark or a spot on the edge.
+  for (QWidget* next = form_->nextInFocusChain(); next != form_; next = next->nextInFocusChain()) {
+    const QString role = next->property("role").toString();
+    if (role == "mark" || role == "hotspot") continue;
+    if ((next->focusPolicy() & Qt::TabFocus) != 0 && next->isVisibleTo(form_) &&
+        next->isEnabled()) {
+      next->setFocus(Qt::OtherFocusReason);
+      return;
+    }
+  }
 }
 
 void ScreenWindow::changeEvent(QEvent* event) {

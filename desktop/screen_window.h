@@ -42,6 +42,7 @@ class ScreenWindow : public QWidget {
 
  private:
   void MakeFrameless();
+  void FocusFirst();
   void Drag(const QMouseEvent& move);
   void EndDrag();
 

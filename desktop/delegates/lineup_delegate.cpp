@@ -55,7 +55,7 @@ void LineupDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option
 
 QSize LineupDelegate::sizeHint(const QStyleOptionViewItem& option,
                                const QModelIndex& /*index*/) const {
-  return {0, row::Height(option) * 5 / 4};
+  return {0, row::Height(option) * 3 / 2};
 }
 
 }  // namespace frostmark

@@ -1,5 +1,6 @@
 #include "desktop/decorations.h"
 #include "desktop/delegates/team_name_delegate.h"
+#include "desktop/fonts.h"
 #include "desktop/list_view.h"
 #include "desktop/palette.h"
 #include "desktop/screen_form.h"
@@ -23,6 +24,7 @@ QString Chosen(const RecordList& teams) {
 }  // namespace
 
 void DecorateFStartGame(FStartGame& screen, ScreenForm& form) {
+  UsePosterFonts();
   GiveRoom(Part<ListView>(form, "List3"), 13, 7);
   GiveRoom(Part<ListView>(form, "List4"), 13, 7);
   ShowTeams(Part<ListView>(form, "File1"), palette::kBlue);

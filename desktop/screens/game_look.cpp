@@ -4,6 +4,7 @@
 #include "desktop/decorations.h"
 #include "desktop/delegates/lineup_delegate.h"
 #include "desktop/delegates/play_delegate.h"
+#include "desktop/fonts.h"
 #include "desktop/list_view.h"
 #include "desktop/screen_form.h"
 #include "desktop/widgets/pin.h"
@@ -57,6 +58,7 @@ void ShowLine(ListView& line) {
 }  // namespace
 
 void DecorateGame(Game& screen, ScreenForm& form) {
+  UsePosterFonts();
   ShowLine(Part<ListView>(form, "Line1"));
   ShowLine(Part<ListView>(form, "Line2"));
   auto& events = Part<ListView>(form, "Events");

@@ -1,4 +1,5 @@
 #include <QAbstractButton>
+#include <QEvent>
 #include <QGridLayout>
 
 #include "desktop/decorations.h"
@@ -14,23 +15,41 @@
 namespace frostmark {
 namespace {
 
-void ShowPlayers(ListView& list, int rows) {
+void ShowPlayers(ListView& list) {
   list.setItemDelegate(new PlayerDelegate(&list));
   list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  GiveRoom(list, 34, rows);
 }
+
+// Sees to the room of the panel's lists when it is first shown: until then they need none, and the
+// program starts without looking at them.
+class PanelOpening : public QObject {
+ public:
+  explicit PanelOpening(QWidget& panel) : QObject(&panel), panel_(panel) {
+    panel_.installEventFilter(this);
+  }
+
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() != QEvent::Show) return false;
+    for (auto* list : panel_.findChildren<ListView*>()) GiveRoom(*list, 34, 6);
+    panel_.removeEventFilter(this);
+    return false;
+  }
+
+ private:
+  QWidget& panel_;
+};
 
 }  // namespace
 
 void DecorateStartup(Startup& screen, ScreenForm& form) {
   KeepPlaceWhenHidden(Part<QWidget>(form, "HighButton4"));
   KeepPlaceWhenHidden(Part<QWidget>(form, "HighButton5"));
-  KeepPlaceWhenHidden(Part<QWidget>(form, "Frame1"));
   auto& scene = Part<TitleScene>(form, "look_scene");
   static_cast<QGridLayout*>(scene.layout())
       ->setRowMinimumHeight(0, TitleScene::NameHeight(scene.sizeHint().height()));
-  ShowPlayers(Part<ListView>(form, "List1"), 6);
-  ShowPlayers(Part<ListView>(form, "List2"), 6);
+  ShowPlayers(Part<ListView>(form, "List1"));
+  ShowPlayers(Part<ListView>(form, "List2"));
+  new PanelOpening(Part<QWidget>(form, "Frame1"));
   new Pin(Part<QWidget>(form, "Label3"), Qt::AlignTop | Qt::AlignRight, {0, 8, 8, 0});
   new Pin(Part<QWidget>(form, "Label12"), Qt::AlignLeft | Qt::AlignVCenter);
 

@@ -4,9 +4,10 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <array>
+#include <cmath>
 
-#include "desktop/fonts.h"
 #include "desktop/palette.h"
+#include "desktop/widgets/wordmark.h"
 
 namespace frostmark {
 namespace {
@@ -42,7 +43,7 @@ void DrawNight(QPainter& painter, const QRectF& area) {
   QLinearGradient night(area.topLeft(), area.bottomLeft());
   night.setColorAt(0, QColor(palette::kDeep));
   night.setColorAt(kHorizon, QColor(0x1B, 0x45, 0x83));
-  painter.fillRect(area, night);
+  painter.fillRect(QRectF(area.topLeft(), QSizeF(area.width(), area.height() * kHorizon)), night);
 }
 
 // The floodlights: cones of light from under the roof.
@@ -67,25 +68,41 @@ void DrawLights(QPainter& painter, const QRectF& area) {
   }
 }
 
-// The crowd: rows of heads on the far stand, a little uneven, every time the same.
-void DrawCrowd(QPainter& painter, const QRectF& area) {
+// A piece of the far stand: rows of heads, a little uneven, every time the same. The rows behind
+// are darker.
+QPixmap CrowdPiece(double size, int heads, double scale) {
   constexpr std::array<QRgb, 5> kCoats = {0xFF22406E, 0xFF2D548C, 0xFF183259, 0xFF7E3347,
                                           0xFF50709D};
-  const double size = area.height() * 0.0145;
-  const double horizon = area.top() + area.height() * (kHorizon - 0.035);
-  unsigned int noise = 7;
+  constexpr int kRows = 7;
+  const double pitch = size * 1.75;
+  QPixmap piece((QSizeF(pitch * heads, size * (kRows * 1.5 + 1)) * scale).toSize());
+  piece.setDevicePixelRatio(scale);
+  piece.fill(Qt::transparent);
+  QPainter painter(&piece);
+  painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  for (int row = 6; row >= 0; --row) {
-    const double y = horizon - row * size * 1.5;
-    for (double x = area.left() - size; x < area.right() + size; x += size * 1.75) {
+  unsigned int noise = 7;
+  for (int row = 0; row < kRows; ++row) {
+    for (int head = -1; head <= heads; ++head) {
       noise = noise * 1103515245U + 12345U;
       QColor coat(kCoats[(noise >> 16U) % kCoats.size()]);
-      coat.setAlpha(210 - row * 24);
+      coat.setAlpha(66 + row * 24);
       painter.setBrush(coat);
       const double nudge = size * 0.5 * ((noise >> 20U) % 8U) / 8.0;
-      painter.drawEllipse(QPointF(x + nudge + (row % 2) * size * 0.9, y - nudge), size * 0.8, size);
+      const double x = head * pitch + nudge + (row % 2) * size * 0.9;
+      painter.drawEllipse(QPointF(x, size * (1 + row * 1.5) - nudge), size * 0.8, size);
     }
   }
+  return piece;
+}
+
+// One piece of the crowd, again and again: nobody looks at the faces.
+void DrawCrowd(QPainter& painter, const QRectF& area) {
+  const double size = area.height() * 0.0145;
+  const QPixmap piece = CrowdPiece(size, 16, painter.device()->devicePixelRatioF());
+  const double high = piece.deviceIndependentSize().height();
+  const double floor = area.top() + area.height() * (kHorizon - 0.02);
+  painter.drawTiledPixmap(QRectF(area.left(), floor - high, area.width(), high), piece);
 }
 
 // A line across the whole ice, between two depths.
@@ -171,15 +188,11 @@ void DrawPuck(QPainter& painter, const QRectF& area) {
 
 // The name of the game, in ice with a blue and a red line under it.
 void DrawName(QPainter& painter, const QRectF& area) {
-  UsePosterFonts();
-  QFont face("Arial Black");
-  face.setPixelSize(static_cast<int>(area.height() * 0.125));
-  face.setLetterSpacing(QFont::PercentageSpacing, 102);
-  QPainterPath name;
-  name.addText(0, 0, face, "FROSTMARK");
-  const QRectF bounds = name.boundingRect();
   const double margin = area.height() * 0.07;
-  name.translate(area.left() + margin - bounds.left(), area.top() + margin - bounds.top());
+  const double scale = area.height() * 0.1 / kWordmarkHeight;
+  const QPainterPath name = QTransform::fromTranslate(area.left() + margin, area.top() + margin)
+                                .scale(scale, scale)
+                                .map(Wordmark());
   const QRectF at = name.boundingRect();
 
   painter.setPen(Qt::NoPen);
@@ -200,6 +213,24 @@ void DrawName(QPainter& painter, const QRectF& area) {
                    QColor(palette::kRed));
 }
 
+// Takes away what lies outside the round corners of the window.
+void CutCorners(QPainter& painter, const QRectF& area) {
+  painter.setCompositionMode(QPainter::CompositionMode_Clear);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(Qt::black);
+  for (const bool right : {false, true}) {
+    for (const bool lower : {false, true}) {
+      const QPointF corner(right ? area.right() : area.left(), lower ? area.bottom() : area.top());
+      const QPointF inward(right ? -kCorner : kCorner, lower ? -kCorner : kCorner);
+      QPainterPath cut;
+      cut.addRect(QRectF(corner, corner + inward).normalized());
+      QPainterPath round;
+      round.addEllipse(corner + inward, kCorner, kCorner);
+      painter.drawPath(cut.subtracted(round));
+    }
+  }
+}
+
 }  // namespace
 
 TitleScene::TitleScene(QWidget* parent) : QWidget(parent) {}
@@ -207,7 +238,7 @@ TitleScene::TitleScene(QWidget* parent) : QWidget(parent) {}
 QSize TitleScene::sizeHint() const {
   const int line = fontMetrics().height();
   const QSize content = layout() == nullptr ? QSize() : layout()->totalMinimumSize();
-  return QSize(line * 48, line * 31).expandedTo(content);
+  return QSize(line * 55, line * 34).expandedTo(content);
 }
 
 int TitleScene::NameHeight(int height) { return static_cast<int>(height * 0.17); }
@@ -220,9 +251,6 @@ void TitleScene::DrawPicture() {
   QPainter painter(&picture_);
   painter.setRenderHint(QPainter::Antialiasing);
   const QRectF area(rect());
-  QPainterPath card;
-  card.addRoundedRect(area, kCorner, kCorner);
-  painter.setClipPath(card);
   DrawNight(painter, area);
   DrawCrowd(painter, area);
   DrawLights(painter, area);
@@ -230,6 +258,7 @@ void TitleScene::DrawPicture() {
   DrawBoards(painter, area);
   DrawPuck(painter, area);
   DrawName(painter, area);
+  CutCorners(painter, area);
 }
 
 void TitleScene::paintEvent(QPaintEvent* /*event*/) {

@@ -4,6 +4,7 @@
 
 #include <QAccessible>
 #include <QSet>
+#include <QTabBar>
 #include <QTabWidget>
 
 #include "tests/desktop/person.h"
@@ -19,8 +20,9 @@ QString WidgetName(const Control& control) {
 
 // Names that a toolkit's widget gives to its own parts.
 bool IsOwnPart(const QWidget& widget) {
-  return widget.objectName().startsWith("qt_") ||
-         qobject_cast<const QTabWidget*>(widget.parentWidget()) != nullptr;
+  const QWidget* parent = widget.parentWidget();
+  return widget.objectName().startsWith("qt_") || qobject_cast<const QTabWidget*>(parent) ||
+         qobject_cast<const QTabBar*>(parent);
 }
 
 class Forms : public testing::Test {
