@@ -12,9 +12,6 @@ class ArrowButton : public QPushButton {
  public:
   explicit ArrowButton(QWidget* parent = nullptr);
 
-  QSize sizeHint() const override;
-  QSize minimumSizeHint() const override { return sizeHint(); }
-
  protected:
   void paintEvent(QPaintEvent* event) override;
 

@@ -15,6 +15,8 @@ namespace {
 constexpr double kYoungest = 17;
 constexpr double kOldest = 40;
 
+constexpr double kShortestBar = 6;  // in heights of a line of text
+
 }  // namespace
 
 RatingBar::RatingBar(QWidget* parent) : QLabel(parent) {
@@ -27,11 +29,11 @@ QFont RatingBar::FigureFont() const {
   return figure;
 }
 
-QSize RatingBar::SizeWithBar(double lines) const {
+QSize RatingBar::sizeHint() const {
   const QFontMetricsF metrics(FigureFont());
   const double figure =
       std::max(metrics.horizontalAdvance(text()), metrics.horizontalAdvance("00"));
-  return {static_cast<int>(std::ceil(figure + metrics.height() * lines)),
+  return {static_cast<int>(std::ceil(figure + metrics.height() * kShortestBar)),
           static_cast<int>(std::ceil(metrics.height() * 1.3))};
 }
 

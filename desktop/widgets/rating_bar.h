@@ -17,15 +17,13 @@ class RatingBar : public QLabel {
  public:
   explicit RatingBar(QWidget* parent = nullptr);
 
-  QSize sizeHint() const override { return SizeWithBar(8); }
-  QSize minimumSizeHint() const override { return SizeWithBar(4); }
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  // The size with a bar that is as long as LINES of text are high.
-  QSize SizeWithBar(double lines) const;
   QFont FigureFont() const;
   void PaintBar(QPainter& painter, const QRectF& rect, int value) const;
 

@@ -2,8 +2,10 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QFile>
 #include <QLabel>
 #include <QListView>
+#include <QRegularExpression>
 #include <array>
 
 #include "desktop/widgets/glow_frame.h"
@@ -194,13 +196,32 @@ TEST_F(DraftInWindows, ADoubleClickOutOfTurnIsNoPickAndTheHistoryFollows) {
   EXPECT_TRUE(draft().Command1.Enabled());
 }
 
-TEST_F(DraftInWindows, AWindowManagerCannotCloseTheChoice) {
-  select().Show();
-  game_.Window(select()).close();
-  Settle();
-  EXPECT_TRUE(select().Visible());
-  EXPECT_TRUE(game_.Window(select()).isVisible());
-  EXPECT_EQ(game_.desktop().ExitCode(), -1);
+TEST_F(DraftInWindows, AfterARetirementTheOpenListHasTheKeyboardAtOnce) {
+  // At forty hardly anybody of eleven goes on.
+  QFile team(QFile::decodeName(franchise().UserTeamPath().c_str()));
+  ASSERT_TRUE(team.open(QIODevice::ReadOnly));
+  QString roster = QString::fromUtf8(team.readAll());
+  team.close();
+  roster.replace(QRegularExpression(",\\d+,([NY])"), ",40,\\1");
+  ASSERT_TRUE(team.open(QIODevice::WriteOnly));
+  team.write(roster.toUtf8());
+  team.close();
+  {
+    Person person(game_.desktop());
+    person.When(
+        "the pool", [this] { return Picks(); },
+        [this] {
+          ExpectOnlyTheOpenListLit();
+          EXPECT_EQ(Person::Focus()->objectName(),
+                    kPoolLists[static_cast<std::size_t>(OpenList())]);
+          Person::Press(Qt::Key_Down);
+          Person::Press(Qt::Key_Return);
+        });
+    person.AnswerBox(Qt::Key_Y);
+    Person::Click(Button(results(), "Command1"));
+  }
+  EXPECT_FALSE(select().Visible());
+  EXPECT_TRUE(draft().Command1.Enabled());
 }
 
 }  // namespace
