@@ -53,25 +53,34 @@ WinsAndLosses ReadWinsAndLosses(std::string_view line) {
 void HockeyNaming::RateTeam(const RecordList& list) {
   TeamOffense = 0;
   TeamDefense = 0;
+  // The sums of this walk: another rating may run in its yields and leave others behind.
+  Int16 offense;
+  Int16 defense;
   int forwards = 0;
   int backs = 0;
+  bool whole = true;
   const int count = list.ListCount();
-  for (int i = 0; i < count; ++i) {
+  for (int i = 0; i < count && whole; ++i) {
     const std::string& record = list.List(i);
-    if (record.empty()) return;  // the sums stay as they are, and TeamOverall as it was
     const std::string_view position = FieldView(record, Field::kPosition);
     if (IsForward(position)) {
-      TeamOffense = RoundHalfToEven(TeamOffense + OverallOf(record));
+      offense = RoundHalfToEven(offense + OverallOf(record));
       ++forwards;
     } else if (IsBack(position)) {
-      TeamDefense = RoundHalfToEven(TeamDefense + OverallOf(record));
+      defense = RoundHalfToEven(defense + OverallOf(record));
       ++backs;
     }
-    queue_.Yield();
+    TeamOffense = offense;
+    TeamDefense = defense;
+    whole = !record.empty();
+    if (whole) queue_.Yield();
   }
-  if (TeamOffense == 0 || TeamDefense == 0) return;
-  TeamOffense = DivideHalfToEven(TeamOffense, forwards);
-  TeamDefense = DivideHalfToEven(TeamDefense, backs);
+  TeamOffense = offense;
+  TeamDefense = defense;
+  // After an empty item the plain sums stay, and TeamOverall as it was.
+  if (!whole || offense == 0 || defense == 0) return;
+  TeamOffense = DivideHalfToEven(offense, forwards);
+  TeamDefense = DivideHalfToEven(defense, backs);
   TeamOverall = DivideHalfToEven(TeamOffense + TeamDefense, 2);
 }
 

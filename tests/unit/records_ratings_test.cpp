@@ -82,6 +82,17 @@ TEST_F(RatingsTest, YieldsAfterEachPlayer) {
   EXPECT_EQ(desktop().Yields(), 12);
 }
 
+TEST_F(RatingsTest, ARatingInAYieldOfAnotherDisturbsItNot) {
+  desktop().AtYield([this] { Rate({Player("CF", 99), Player("GO", 99)}); });
+  Rate({Player("CF", 80), Player("GO", 70)});
+  ExpectRatings(80, 70, 75);
+  // There is no forward in this list, so that there is nothing to divide by.
+  desktop().AtYield([this] { Rate({Player("CF", 99), Player("GO", 99)}); });
+  Rate({Player("GO", 70), Player("LD", 70)});
+  EXPECT_EQ(naming().TeamOffense, 0);
+  EXPECT_EQ(naming().TeamDefense, 140);
+}
+
 TEST_F(RatingsTest, ASumBeyondSixteenBitsOverflows) {
   EXPECT_THROW(Rate({Player("CF", 20000), Player("CF", 20000)}), RuntimeError);
 }
