@@ -10,6 +10,9 @@ namespace frostmark::replay {
 
 namespace {
 
+// Where to cut a name so that both of its parts fit their boxes.
+constexpr std::size_t kMostOfCity = 12;
+
 class TroubleReplay : public testing::TestWithParam<std::uint64_t> {
  protected:
   TroubleReplay() : replay(GetParam()) {
@@ -23,7 +26,7 @@ class TroubleReplay : public testing::TestWithParam<std::uint64_t> {
   }
 
   void TakeNameOf(const std::string& other) {
-    const std::size_t blank = other.find(' ');
+    const std::size_t blank = other.rfind(' ', kMostOfCity);
     DoCreateTeam(replay, other.substr(0, blank), other.substr(blank + 1));
   }
 
@@ -34,7 +37,7 @@ TEST_P(TroubleReplay, ANameWithinAnotherName) {
   replay.Run();
   // Without its last letter the name still fits all lines and paths of the other team.
   const std::string other = TeamOf("Rank F", 2);
-  const std::size_t blank = other.find(' ');
+  const std::size_t blank = other.rfind(' ', kMostOfCity);
   DoCreateTeam(replay, other.substr(0, blank), other.substr(blank + 1, other.size() - blank - 2));
   DoSim(replay, "10");
   DoBegin(replay);
@@ -68,6 +71,18 @@ TEST_P(TroubleReplay, ASeasonCutShortWithFiveTeamsInRankF) {
   TakeNameOf(TeamOf("Rank F", 0));
   DoTesting(replay);
   DoBegin(replay);
+  replay.Run();
+}
+
+// Both teams are then the user's: two games a week, two turns in the draft.
+TEST_P(TroubleReplay, ANameThatIsTakenInAnotherLeague) {
+  replay.Run();
+  TakeNameOf(TeamOf("Rank E", 3));
+  DoSim(replay, "10");
+  DoBegin(replay);
+  DoBegin(replay);
+  DoDraft(replay);
+  DoNewSeason(replay);
   replay.Run();
 }
 
