@@ -11,7 +11,7 @@ struct TeamColumns {
     gap = metrics.height() * 0.45;
     mark = metrics.height() * 0.75;
     place = metrics.horizontalAdvance("0");
-    count = metrics.horizontalAdvance("000");
+    count = metrics.horizontalAdvance("00") + gap * 0.8;  // ten weeks: no more than two digits
   }
 
   double gap;

@@ -58,7 +58,7 @@ void DecorateFResults(FResults& screen, ScreenForm& form) {
                                                     : League::kMiddle;
     auto& list = Part<ListView>(form, kTables[i]);
     list.setItemDelegate(new TeamDelegate(league, own_team, &list));
-    GiveRoom(list, 40, 6);
+    GiveRoom(list, 44, 6);
   }
   auto& champion = Part<QLabel>(form, "Champ");
   champion.setStyleSheet(QStringLiteral("color: %1; font-size: %2pt")
