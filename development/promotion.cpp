@@ -77,13 +77,14 @@ std::string Franchise::FinalPlace(std::size_t league, int place) {
   return TeamOfLine(StatRankLists()[league]->List(place));
 }
 
-// A league that has lost lines of its table has no loser to move. That ends the program, as a list
-// error does, before anything has moved.
+// A league that has lost lines of its table has no team to move. That ends the program, as a list
+// error does, before anything has moved. The loser of "Rank F" moves nowhere and may be missing.
 void Franchise::RefuseShortTables() {
   for (const ListBox* standings : StatRankLists()) {
-    if (standings->ListCount() > kLoser) continue;
+    const int needed = standings == &StatRankF ? kWinner : kLoser;
+    if (standings->ListCount() > needed) continue;
     throw RuntimeError("Invalid list index: " + standings->Name() + " has no line " +
-                       std::to_string(kLoser));
+                       std::to_string(needed));
   }
 }
 
