@@ -11,6 +11,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 #include <QWindow>
+#include <algorithm>
 
 #include "desktop/compositing.h"
 #include "desktop/decorations.h"
@@ -37,6 +38,18 @@ void PaintShadow(QPainter& painter, const QRect& card) {
     const QRect ring = card.adjusted(-reach, -reach, reach, reach).translated(0, 4);
     painter.drawRoundedRect(ring, kCorner + reach, kCorner + reach);
   }
+}
+
+// WINDOW moved so that it lies on the desktop: where it does not fit, its top left corner does.
+QRect OnDesktop(QRect window) {
+  const QScreen* monitor = QGuiApplication::screenAt(window.center());
+  if (monitor == nullptr) monitor = QGuiApplication::primaryScreen();
+  const QRect room = monitor->availableGeometry();
+  window.moveRight(std::min(window.right(), room.right()));
+  window.moveBottom(std::min(window.bottom(), room.bottom()));
+  window.moveLeft(std::max(window.left(), room.left()));
+  window.moveTop(std::max(window.top(), room.top()));
+  return window;
 }
 
 }  // namespace
@@ -83,7 +96,7 @@ void ScreenWindow::Follow(QPoint centre) {
     if (!centre.isNull()) {
       QRect at(QPoint(), size());
       at.moveCenter(centre);
-      move(at.topLeft());
+      move(OnDesktop(at).topLeft());
     }
   }
   if (isMinimized()) {
