@@ -93,7 +93,9 @@ std::string HockeyNaming::SetField(std::string_view record, std::string_view fie
   CurAgility = Number(parts, Field::kAgility);
   CurAge = Number(parts, Field::kAge);
   CurTraining = Part(parts, Field::kTraining);
-  Part(parts, Field::kOverall) = std::to_string(OverallAt(CurPosition, CurRatings(), CurOverall));
+  if (IsForward(CurPosition) || IsBack(CurPosition)) {  // anybody else keeps the text that he has
+    Part(parts, Field::kOverall) = std::to_string(OverallAt(CurPosition, CurRatings(), CurOverall));
+  }
   return Join(parts);
 }
 

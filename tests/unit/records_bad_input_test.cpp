@@ -69,7 +69,7 @@ TEST_F(BadInputTest, QuotesLoseNothing) {
   ASSERT_EQ(list.ListCount(), 1);
   EXPECT_EQ(list.List(0), "Smith, James,CF,85,82,91,70,83,23,N");
   // The comma shifts all fields by one, but none is dropped.
-  EXPECT_EQ(naming().SetField(list.List(0), "Training", "Y"), "Smith, James,0,85,82,91,70,83,Y,N");
+  EXPECT_EQ(naming().SetField(list.List(0), "Training", "Y"), "Smith, James,CF,85,82,91,70,83,Y,N");
 }
 
 TEST_F(BadInputTest, AFolderInATeamFilesPlaceIsNoTeamAndStays) {

@@ -140,6 +140,13 @@ TEST_F(FieldsTest, OverallDependsOnThePosition) {
   EXPECT_EQ(overall("go"), "1");
 }
 
+TEST_F(FieldsTest, APlayerOfNoPositionKeepsHisOverallAsItIsWritten) {
+  for (const char* overall : {"85", "", "good", "085", "85.6"}) {
+    const std::string record = std::string("A B,XX,") + overall + ",90,80,70,61,20,";
+    EXPECT_EQ(Set(record + "N", "Training", "Y"), record + "Y");
+  }
+}
+
 TEST_F(FieldsTest, OverallOfAGoalieRoundsATieToTheEvenNumber) {
   const auto goalie = [&](const char* skills) {
     return Get(Set(std::string("A B,GO,1,") + skills + ",20,N", "Training", "N"), "Overall");
