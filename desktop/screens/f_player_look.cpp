@@ -1,10 +1,15 @@
+#include "shell/f_player.h"
+
+#include <QPushButton>
+
 #include "desktop/decorations.h"
 #include "desktop/screen_form.h"
-#include "shell/f_player.h"
 
 namespace frostmark {
 
-// The form says it all.
-void DecorateFPlayer(FPlayer& /*screen*/, ScreenForm& /*form*/) {}
+void DecorateFPlayer(FPlayer& /*screen*/, ScreenForm& form) {
+  // One look at the numbers, then Enter puts them away.
+  Part<QPushButton>(form, "Label5").setFocus();
+}
 
 }  // namespace frostmark
