@@ -54,11 +54,10 @@ void RandomUser::Yield() {
 
 void RandomUser::WaitFor(Time at_most) {
   ActIfHeLikes(2);
-  // Nobody can act at this depth any more, and nothing else will happen.
-  if (at_most == Time::max() && !Timers().NextDue()) {
-    if (depth_ >= kDeepest || --yields_left_ <= 0) throw RoundOver();
-    return;
-  }
+  // At the greatest depth nobody acts, and some waits are for good.
+  yields_left_ -= 100;
+  if (yields_left_ <= 0) throw RoundOver();
+  if (at_most == Time::max() && !Timers().NextDue()) return;
   HeadlessDesktop::WaitFor(at_most);
 }
 
