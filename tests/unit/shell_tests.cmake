@@ -1,4 +1,5 @@
 set(shell_tests
+  development_cut_off_season_test.cpp
   records_bad_input_test.cpp
   records_chance_test.cpp
   records_fields_test.cpp
