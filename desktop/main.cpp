@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QFile>
+#include <QIcon>
 
 #include "desktop/qt_desktop.h"
 #include "desktop/style.h"
@@ -10,7 +11,10 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName("Frostmark");
   QApplication::setApplicationDisplayName("Frostmark");
-  QApplication::setDesktopFileName("frostmark");
+  QApplication::setDesktopFileName("io.frostmark.frostmark");
+  QIcon icon;
+  for (const char* size : {":/icon-48.png", ":/icon-128.png"}) icon.addFile(size);
+  QApplication::setWindowIcon(icon);
   frostmark::DressApplication();
 
   frostmark::QtDesktop desktop;
