@@ -1,8 +1,8 @@
 #include <filesystem>
-#include <functional>
 
 #include "records/runtime_error.h"
 #include "tests/unit/game_fixture.h"
+#include "tests/unit/watchful_desktop.h"
 
 // The end of a season: who moves, what is shown, in which order.
 
@@ -183,16 +183,6 @@ TEST_F(PromotionTest, AUserWhoWinsTheTopLeagueIsCongratulated) {
   EXPECT_EQ(results().Label5.Caption(), "A0 Wolves");
 }
 
-// A desktop that looks on while a box stands.
-class WatchfulDesktop : public HeadlessDesktop {
- public:
-  Answer ShowBox(const MessageBox& box) override {
-    if (OnBox) OnBox();
-    return HeadlessDesktop::ShowBox(box);
-  }
-  std::function<void()> OnBox;
-};
-
 TEST_F(PromotionTest, TheTitleIsCountedWhenTheMessageIsClosed) {
   WatchfulDesktop watchful;
   Program other(watchful, dice(), world.path());
@@ -232,10 +222,14 @@ TEST_F(PromotionTest, ATeamOfTheSameNameInTheNewLeagueIsReplaced) {
   EXPECT_EQ(ReadLines(world.TeamPath("Rank E", "F0 Wolves")), MakeRoster(74));
 }
 
-TEST_F(PromotionTest, ATableShorterThanSixEndsTheProgramBeforeAnythingMoves) {
+TEST_F(PromotionTest, ATableThatIsTooShortEndsTheProgramBeforeAnythingMoves) {
   for (ListBox* table : franchise().StatRankLists()) {
     const Lines whole = ItemsOf(*table);
-    table->RemoveItem(5);
+    if (table == &franchise().StatRankF) {
+      table->Clear();
+    } else {
+      table->RemoveItem(5);
+    }
     const Lines files = world.Everything();
     try {
       franchise().theOffSeason();
@@ -243,12 +237,43 @@ TEST_F(PromotionTest, ATableShorterThanSixEndsTheProgramBeforeAnythingMoves) {
     } catch (const RuntimeError& error) {
       EXPECT_STRNE(error.what(), "");
     }
-    EXPECT_EQ(world.Everything(), files);
+    EXPECT_TRUE(world.Everything() == files);
     EXPECT_EQ(franchise().Season.Caption(), "00");
     EXPECT_EQ(franchise().NextWeek.Caption(), "Week 1");
     EXPECT_FALSE(results().Visible());
     FillList(*table, whole);
   }
+}
+
+TEST_F(PromotionTest, TheLastOfTheBottomLeagueMayBeMissing) {
+  franchise().StatRankF.RemoveItem(5);
+  franchise().theOffSeason();
+  EXPECT_EQ(results().Label23.Caption(), "");
+  EXPECT_EQ(results().Label24.Caption(), "F0 Wolves");
+  EXPECT_TRUE(LiesIn("F0 Wolves", "Rank E"));
+  EXPECT_TRUE(results().Visible());
+}
+
+TEST_F(PromotionTest, AnEndThatWasCutOffGoesOnWhereItWas) {
+  // The program ended between two moves; the tables were saved before.
+  std::filesystem::rename(world.TeamPath("Rank F", "F0 Wolves"),
+                          world.TeamPath("Rank E", "F0 Wolves"));
+  for (const char* team : {"F3 Wolves", "F0 Wolves"}) {
+    franchise().TeamName.SetCaption(team);
+    std::vector<Lines> tables;
+    for (ListBox* table : franchise().StatRankLists()) tables.push_back(ItemsOf(*table));
+    franchise().LoadNewTeams();
+    for (std::size_t league = 0; league < kRanks.size(); ++league) {
+      FillList(*franchise().StatRankLists()[league], tables[league]);
+    }
+    franchise().theOffSeason();
+    for (const char* rank : kRanks) EXPECT_EQ(world.FileNames(rank).size(), 6U) << rank;
+    EXPECT_TRUE(LiesIn("F0 Wolves", "Rank E"));
+    EXPECT_TRUE(LiesIn("E5 Wolves", "Rank F"));
+    EXPECT_TRUE(LiesIn("A5 Wolves", "Rank B"));
+  }
+  // The second time all had moved already.
+  EXPECT_EQ(franchise().MyRank.Caption(), "Rank E");
 }
 
 TEST_F(PromotionTest, ATeamThatIsNowhereLeavesTheBorderClosed) {

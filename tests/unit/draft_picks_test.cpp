@@ -2,6 +2,7 @@
 
 #include "records/runtime_error.h"
 #include "tests/unit/draft_scenes.h"
+#include "tests/unit/watchful_desktop.h"
 
 // The user's own turn in the draft.
 
@@ -376,6 +377,20 @@ TEST_F(NewSeasonTest, ItHandsTheGameBackAndSaves) {
   // The draft's history and what is left of the pool stay until the next draft.
   EXPECT_EQ(program().f_draft.Events.ListCount(), 1);
   EXPECT_EQ(program().f_draft.List1[1].ListCount(), 1);
+}
+
+TEST_F(NewSeasonTest, ItSavesWhenTheGameIsHandedBack) {
+  WatchfulDesktop watchful;
+  Program other(watchful, dice(), world.path());
+  other.franchise.TeamName.SetCaption("F3 Wolves");
+  other.f_draft.Show();
+  watchful.OnBox = [&] {
+    EXPECT_FALSE(other.f_draft.Visible());
+    EXPECT_TRUE(other.franchise.Visible());
+    EXPECT_EQ(other.franchise.TrainingRoster.ListCount(), 5);
+  };
+  Raise(other.f_draft.Command1.OnClick);
+  EXPECT_EQ(watchful.Boxes().size(), 1U);
 }
 
 TEST_F(NewSeasonTest, TheTeamIsReadFromItsNewLeague) {

@@ -86,7 +86,10 @@ TEST_F(LeagueListsTest, TheLesserFormReadsTheNamesAloneAndFindsTheOpponent) {
   franchise().LooseOrWin.SetCaption("kept");
   franchise().Label19.SetCaption("kept too");
   franchise().NextWeek.SetCaption("Week 2");
+  const auto before = desktop().Yields();
   franchise().LoadNewTeamsTwo();
+  // One a team, then the opponent's roster: nine a record to read, one to rate.
+  EXPECT_EQ(desktop().Yields() - before, 36 + 11 * 9 + 11);
   EXPECT_EQ(ItemsOf(franchise().RankF), world.FileNames("Rank F"));
   EXPECT_EQ(ItemsOf(franchise().RankA), world.FileNames("Rank A"));
   EXPECT_EQ(ItemsOf(franchise().StatRankF), Lines{"(3-1-0) F0 Wolves"});

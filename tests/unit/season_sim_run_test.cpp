@@ -144,6 +144,28 @@ TEST_F(SimRunTest, BetweenTwoPressesARunYields) {
   EXPECT_EQ(desktop().Yields() - before, press + 1);
 }
 
+TEST_F(SimRunTest, APressBetweenTwoPressesIsPlayedTooAndItsWeekCounts) {
+  // The last that a press does is to show the opponent: the yield behind it is the run's own.
+  franchise().OppOverall.SetCaption("not yet");
+  When([this] { return franchise().OppOverall.Caption() != "not yet"; },
+       [this] {
+         EXPECT_EQ(franchise().NextWeek.Caption(), "Week 2");
+         Raise(franchise().HighButton1.OnClick);
+       });
+  Sim("3");
+  EXPECT_EQ(franchise().NextWeek.Caption(), "Week 3");
+  EXPECT_EQ(GamesPlayed(), 2 * 18);
+}
+
+TEST_F(SimRunTest, CancelBetweenTwoPressesEndsTheRun) {
+  franchise().OppOverall.SetCaption("not yet");
+  When([this] { return franchise().OppOverall.Caption() != "not yet"; },
+       [this] { Raise(franchise().Command5.OnClick); });
+  Sim("9");
+  EXPECT_EQ(franchise().NextWeek.Caption(), "Week 2");
+  EXPECT_FALSE(franchise().SimRunning);
+}
+
 TEST_F(SimRunTest, CancelEndsTheRunBehindTheWeekBeingPlayed) {
   When([this] { return GamesPlayed() == 7; },
        [this] {

@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "tests/unit/game_fixture.h"
+#include "tests/unit/watchful_desktop.h"
 
 // The press of "Begin".
 
@@ -71,7 +72,7 @@ TEST_F(WeekLoopTest, AMissingPositionIsRefused) {
     EXPECT_FALSE(franchise().Timer1.Enabled());
     EXPECT_EQ(EnabledButtons(), 6);
     EXPECT_EQ(desktop().Yields() - yields, 5);  // one a record of the lead line
-    EXPECT_EQ(world.Everything(), files);
+    EXPECT_TRUE(world.Everything() == files);
   }
   EXPECT_EQ(desktop().Boxes().size(), 6U);
   EXPECT_TRUE(dice().Rolls().empty());
@@ -82,6 +83,26 @@ TEST_F(WeekLoopTest, AMissingPositionIsToldBeforeADoubledOne) {
   Begin();
   ASSERT_EQ(desktop().Boxes().size(), 1U);
   EXPECT_EQ(desktop().Boxes()[0].text, "You are missing a position!");
+}
+
+TEST_F(WeekLoopTest, TheRunEndsWhenTheRefusalIsClosed) {
+  WatchfulDesktop watchful;
+  Program other(watchful, dice(), world.path());
+  bool cancel_shows = false;
+  watchful.OnBox = [&] { cancel_shows = other.franchise.Command5.Visible(); };
+  // Nobody at all, then two of each position.
+  for (const int players : {0, 2}) {
+    for (int line = 0; line < players; ++line) {
+      for (int i = 0; i < 6; ++i) other.franchise.MainList.AddItem(MakeRoster(74)[i]);
+    }
+    cancel_shows = false;
+    other.franchise.Command5.Show();
+    watchful.QueueAnswer(players == 0 ? "ok" : "yes");
+    other.franchise.PressBegin();
+    EXPECT_TRUE(cancel_shows) << players;
+    EXPECT_FALSE(other.franchise.Command5.Visible()) << players;
+  }
+  EXPECT_EQ(watchful.Boxes().size(), 2U);
 }
 
 TEST_F(WeekLoopTest, AnUnknownPositionCountsNowhere) {
@@ -252,6 +273,31 @@ TEST_F(WeekLoopTest, APressInTheSecondReadingIsPlayedToo) {
   EXPECT_EQ(EnabledButtons(), 6);
 }
 
+TEST_F(WeekLoopTest, TheRosterIsReadFromTheFileBothTimes) {
+  When([this] { return franchise().MainList.ListCount() == 12; },
+       [this] { world.WriteTeam("Rank F", "F0 Wolves", MakeRoster(99)); });
+  Begin();
+  EXPECT_EQ(ItemsOf(franchise().tempList), ReadLines(world.TeamPath("Rank F", "F1 Wolves")));
+  EXPECT_EQ(franchise().MainRoster.List(0), "GO - Adam Player (99/20)");
+  EXPECT_EQ(franchise().Label9.Caption(), "99");
+}
+
+TEST_F(WeekLoopTest, TheNewsIsTrimmedBeforeTheNextOpponentIsFound) {
+  for (int line = 0; line < 44; ++line) franchise().Alerts.AddItem("old");
+  bool trimming = false;
+  When(
+      [this] {
+        return franchise().NextWeek.Caption() == "Week 2" && franchise().Alerts.ListCount() < 62;
+      },
+      [&] {
+        trimming = true;
+        EXPECT_EQ(franchise().OppTeam.Caption(), "F3 Wolves");
+      });
+  Begin();
+  EXPECT_TRUE(trimming);
+  EXPECT_EQ(franchise().OppTeam.Caption(), "F1 Wolves");
+}
+
 TEST_F(WeekLoopTest, ARecordWithAnotherTrainingGoesToNeitherLine) {
   Lines roster = MakeRoster(74);
   roster[8].back() = 'X';
@@ -292,6 +338,18 @@ TEST_F(WeekLoopTest, BehindWeekTenTheOpponentsRatingsAreTheUsersOwn) {
   EXPECT_EQ(franchise().OppOverall.Caption(), franchise().Label9.Caption());
   EXPECT_EQ(franchise().OppTeam.Caption(), "F5 Wolves");
   EXPECT_EQ(ItemsOf(franchise().tempList), ReadLines(world.TeamPath("Rank F", "F0 Wolves")));
+}
+
+TEST_F(WeekLoopTest, BehindAWatchedWeekTenTheOpponentHasNoName) {
+  franchise().SimRunning = false;
+  franchise().NextWeek.SetCaption("Week 10");
+  franchise().OppTeam.SetCaption("F5 Wolves");
+  dice().ThenAlways(110);
+  desktop().AtWait([this] { Raise(program().game.HighButton2.OnClick); });
+  Begin();
+  EXPECT_EQ(franchise().NextWeek.Caption(), "Off Season");
+  EXPECT_EQ(franchise().OppTeam.Caption(), "");
+  EXPECT_EQ(franchise().OppOverall.Caption(), "74");
 }
 
 TEST_F(WeekLoopTest, InWeekTenEverybodyGrowsAYearOlder) {
