@@ -45,7 +45,18 @@ void TakeDesk(Album& album) {
 void TakeResults(Album& album) {
   Franchise& franchise = album.program().franchise;
   FResults& results = album.program().f_results;
-  while (!results.Visible()) Raise(franchise.HighButton1.OnClick);
+  // The last press of a season may stay open, waiting for the file of an opponent who has moved to
+  // another league. It is left there.
+  album.desktop().while_waiting = [&results] {
+    if (results.Visible()) throw ProgramEnded{};
+  };
+  while (!results.Visible()) {
+    try {
+      Raise(franchise.HighButton1.OnClick);
+    } catch (const ProgramEnded&) {
+    }
+  }
+  album.desktop().while_waiting = nullptr;
   album.Take(results, "results");
   results.XTab1.SetFront(1);
   album.Take(results, "results-standings");
