@@ -1,6 +1,7 @@
 #include "desktop/widgets/rating_chip.h"
 
 #include <QPainter>
+#include <algorithm>
 
 #include "desktop/palette.h"
 
@@ -17,9 +18,16 @@ void RatingChip::SetCarrier(bool carrier) {
   update();
 }
 
+QFont RatingChip::PosterFont() const {
+  QFont poster = font();
+  poster.setFamily("Arial Black");
+  return poster;
+}
+
 QSize RatingChip::sizeHint() const {
-  const int size = fontMetrics().height() * 2;
-  return {std::max(size, fontMetrics().horizontalAdvance(text()) + fontMetrics().height()), size};
+  const int line = fontMetrics().height();
+  const int figures = QFontMetrics(PosterFont()).horizontalAdvance(text());
+  return {std::max(2 * line, figures + line / 2), 2 * line};
 }
 
 void RatingChip::paintEvent(QPaintEvent* /*event*/) {
@@ -34,9 +42,7 @@ void RatingChip::paintEvent(QPaintEvent* /*event*/) {
   painter.setPen(
       QPen(carrier_ ? QColor(palette::kGold) : QColor(Qt::white), carrier_ ? edge * 1.9 : edge));
   painter.drawRoundedRect(disc, disc.height() / 2, disc.height() / 2);
-  QFont bold = font();
-  bold.setBold(true);
-  painter.setFont(bold);
+  painter.setFont(PosterFont());
   painter.setPen(Qt::white);
   painter.drawText(disc, Qt::AlignCenter, text());
 }

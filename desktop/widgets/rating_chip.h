@@ -4,7 +4,7 @@
 
 namespace frostmark {
 
-// A player on the rink: the disc with his rating.
+// A player on the rink: the disc with his rating, in the poster face like the goals.
 class RatingChip : public QLabel {
   Q_OBJECT
 
@@ -22,6 +22,8 @@ class RatingChip : public QLabel {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  QFont PosterFont() const;
+
   QColor colour_ = Qt::gray;
   bool carrier_ = false;
 };
