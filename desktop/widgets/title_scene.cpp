@@ -96,10 +96,10 @@ QPixmap CrowdPiece(double size, int heads, double scale) {
   return piece;
 }
 
+double HeadSize(const QRectF& area) { return area.height() * 0.0145; }
+
 // One piece of the crowd, again and again: nobody looks at the faces.
-void DrawCrowd(QPainter& painter, const QRectF& area) {
-  const double size = area.height() * 0.0145;
-  const QPixmap piece = CrowdPiece(size, 16, painter.device()->devicePixelRatioF());
+void DrawCrowd(QPainter& painter, const QRectF& area, const QPixmap& piece) {
   const double high = piece.deviceIndependentSize().height();
   const double floor = area.top() + area.height() * (kHorizon - 0.02);
   painter.drawTiledPixmap(QRectF(area.left(), floor - high, area.width(), high), piece);
@@ -243,16 +243,13 @@ QSize TitleScene::sizeHint() const {
 
 int TitleScene::NameHeight(int height) { return static_cast<int>(height * 0.17); }
 
-void TitleScene::DrawPicture() {
-  const double scale = devicePixelRatioF();
-  picture_ = QPixmap((QSizeF(size()) * scale).toSize());
-  picture_.setDevicePixelRatio(scale);
-  picture_.fill(Qt::transparent);
-  QPainter painter(&picture_);
-  painter.setRenderHint(QPainter::Antialiasing);
+void TitleScene::paintEvent(QPaintEvent* /*event*/) {
   const QRectF area(rect());
+  if (crowd_.isNull()) crowd_ = CrowdPiece(HeadSize(area), 16, devicePixelRatioF());
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
   DrawNight(painter, area);
-  DrawCrowd(painter, area);
+  DrawCrowd(painter, area, crowd_);
   DrawLights(painter, area);
   DrawIce(painter, area);
   DrawBoards(painter, area);
@@ -261,9 +258,9 @@ void TitleScene::DrawPicture() {
   CutCorners(painter, area);
 }
 
-void TitleScene::paintEvent(QPaintEvent* /*event*/) {
-  if (picture_.size() != (QSizeF(size()) * devicePixelRatioF()).toSize()) DrawPicture();
-  QPainter(this).drawPixmap(0, 0, picture_);
+void TitleScene::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  crowd_ = QPixmap();
 }
 
 }  // namespace frostmark

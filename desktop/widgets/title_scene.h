@@ -6,7 +6,7 @@
 namespace frostmark {
 
 // The picture behind the start screen: an arena at night, seen from the ice level, with the name of
-// the game over it. It is drawn once for a size and kept.
+// the game over it.
 class TitleScene : public QWidget {
   Q_OBJECT
 
@@ -21,11 +21,10 @@ class TitleScene : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
-  void DrawPicture();
-
-  QPixmap picture_;
+  QPixmap crowd_;  // the part that takes longest to draw
 };
 
 }  // namespace frostmark

@@ -27,7 +27,7 @@ void TakeDesk(Album& album) {
   Raise(program.startup.HighButton6.OnClick);
   franchise.SimRunning = true;
   for (int week = 1; week < 5; ++week) Raise(franchise.HighButton1.OnClick);
-  album.Take(franchise, "franchise");
+  album.Take(franchise, "franchise-main");
   franchise.XTab1.SetFront(1);
   ShowOwnGame(album);
   album.Take(franchise, "franchise-alerts");
