@@ -4,4 +4,5 @@ set(season_tests
   season_schedule_test.cpp season_league_lists_test.cpp season_week_loop_test.cpp
   season_sim_run_test.cpp
   development_training_test.cpp development_promotion_test.cpp
-  draft_run_test.cpp draft_pool_test.cpp draft_picks_test.cpp draft_year_test.cpp)
+  draft_run_test.cpp draft_pool_test.cpp draft_picks_test.cpp draft_year_test.cpp
+  draft_new_season_test.cpp draft_wait_test.cpp)
