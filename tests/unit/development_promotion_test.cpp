@@ -193,6 +193,7 @@ TEST_F(PromotionTest, TheTitleIsCountedWhenTheMessageIsClosed) {
     ++boxes;
     EXPECT_EQ(other.franchise.Champion.Caption(), "00");
     EXPECT_EQ(other.f_results.Label5.Caption(), "No one");
+    EXPECT_EQ(other.f_results.Champ.Caption(), "Denver Skeletons");
     EXPECT_EQ(other.f_results.Label16.Caption(), "B0 Wolves");
     EXPECT_TRUE(LiesIn("A5 Wolves", "Rank A"));
     EXPECT_TRUE(LiesIn("B0 Wolves", "Rank A"));
