@@ -1,4 +1,5 @@
 #include "tests/unit/game_fixture.h"
+#include "tests/unit/watchful_desktop.h"
 
 // The button "New Season".
 

@@ -2,7 +2,6 @@
 
 #include "records/runtime_error.h"
 #include "tests/unit/draft_scenes.h"
-#include "tests/unit/watchful_desktop.h"
 
 // The user's own turn in the draft.
 
