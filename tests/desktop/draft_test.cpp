@@ -196,6 +196,29 @@ TEST_F(DraftInWindows, ADoubleClickOutOfTurnIsNoPickAndTheHistoryFollows) {
   EXPECT_TRUE(draft().Command1.Enabled());
 }
 
+TEST_F(DraftInWindows, ItsWindowClosedWhileTheUserIsAwaitedEndsTheProgram) {
+  {
+    Person person(game_.desktop());
+    person.When(
+        "the user's turn", [this] { return ChoosesWhomToLetGo(); },
+        [this] {
+          // The choice itself cannot be closed.
+          game_.Window(select()).close();
+          EXPECT_EQ(game_.desktop().ExitCode(), -1);
+          EXPECT_TRUE(select().Visible());
+          game_.Window(draft()).close();
+        });
+    Person::Click(Button(results(), "Command1"));
+  }
+  EXPECT_EQ(game_.desktop().ExitCode(), 0);
+  EXPECT_FALSE(draft().Command1.Enabled());
+  // His team is as it was, with all of its eleven.
+  QFile team(QFile::decodeName(franchise().UserTeamPath().c_str()));
+  ASSERT_TRUE(team.open(QIODevice::ReadOnly));
+  EXPECT_EQ(team.readAll().count('\n'), 11);
+  EXPECT_EQ(draft().tempList.ListCount(), 11);
+}
+
 TEST_F(DraftInWindows, AfterARetirementTheOpenListHasTheKeyboardAtOnce) {
   // At forty hardly anybody of eleven goes on.
   QFile team(QFile::decodeName(franchise().UserTeamPath().c_str()));
