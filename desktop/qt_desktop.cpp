@@ -4,6 +4,7 @@
 #include <QDesktopServices>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QScreen>
 #include <QTime>
 #include <QTimer>
 #include <QUrl>
@@ -168,7 +169,8 @@ void QtDesktop::ScreenChanged(Screen& screen) {
 }
 
 QPoint QtDesktop::Centre() const {
-  return last_shown_ == nullptr ? QPoint() : last_shown_->geometry().center();
+  if (last_shown_ != nullptr) return last_shown_->geometry().center();
+  return QApplication::primaryScreen()->availableGeometry().center();
 }
 
 void QtDesktop::DragRequested(Screen& screen) {

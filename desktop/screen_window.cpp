@@ -93,11 +93,9 @@ void ScreenWindow::Follow(QPoint centre) {
   if (!isVisible()) {
     if (focusWidget() == nullptr) FocusFirst();
     adjustSize();
-    if (!centre.isNull()) {
-      QRect at(QPoint(), size());
-      at.moveCenter(centre);
-      move(OnDesktop(at).topLeft());
-    }
+    QRect at(QPoint(), size());
+    at.moveCenter(centre);
+    move(OnDesktop(at).topLeft());
   }
   if (isMinimized()) {
     showNormal();

@@ -23,7 +23,7 @@ class ScreenWindow : public QWidget {
   ~ScreenWindow() override;
 
   // Brings the window to the screen's present state. Newly shown it stands over CENTRE, a point of
-  // the desktop, unless that is null.
+  // the desktop.
   void Follow(QPoint centre);
 
   // Moves the window with the mouse, whose button is down on it, until the button is let go.

@@ -1,9 +1,8 @@
-#include "shell/f_player.h"
-
 #include <QPushButton>
 
 #include "desktop/decorations.h"
 #include "desktop/screen_form.h"
+#include "shell/f_player.h"
 
 namespace frostmark {
 
