@@ -34,7 +34,7 @@ class TrainingTest : public GameFixture {
   std::string team = "F0 Wolves";
 };
 
-RecordSpec Forward(int age, const std::string& training) {
+ManOfTest Forward(int age, const std::string& training) {
   return {.name = "Jim", .position = "CF", .age = age, .training = training};
 }
 
@@ -113,8 +113,8 @@ TEST_F(TrainingTest, AnAgeIsReadLeniently) {
 
 TEST_F(TrainingTest, ASkaterOfTheLeadLineIsNotRolledFor) {
   for (const char* training : {"N", "", "y", "YY"}) {
-    RecordSpec spec = Forward(20, training);
-    EXPECT_EQ(Trained(MakeRecord(spec), {}), MakeRecord(spec)) << training;
+    ManOfTest man = Forward(20, training);
+    EXPECT_EQ(Trained(MakeRecord(man), {}), MakeRecord(man)) << training;
   }
 }
 

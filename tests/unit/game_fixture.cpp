@@ -24,13 +24,13 @@ Lines NamesIn(const std::string& folder) {
   return names;
 }
 
-int OverallOf(const RecordSpec& spec) {
-  if (spec.position == "GO") {
-    return static_cast<int>(std::nearbyint((spec.defense + spec.passing) / 2.0));
+int OverallOf(const ManOfTest& man) {
+  if (man.position == "GO") {
+    return static_cast<int>(std::nearbyint((man.defense + man.passing) / 2.0));
   }
-  const bool back = spec.position == "LD" || spec.position == "RD";
-  const int own_skill = back ? spec.defense : spec.shooting;
-  return static_cast<int>(std::nearbyint((own_skill + spec.passing + spec.agility) / 3.0));
+  const bool back = man.position == "LD" || man.position == "RD";
+  const int own_skill = back ? man.defense : man.shooting;
+  return static_cast<int>(std::nearbyint((own_skill + man.passing + man.agility) / 3.0));
 }
 
 }  // namespace
@@ -98,11 +98,11 @@ void GameFixture::TakeOver(const std::string& rank, const std::string& team) {
   }
 }
 
-std::string MakeRecord(const RecordSpec& spec) {
+std::string MakeRecord(const ManOfTest& man) {
   std::ostringstream record;
-  record << spec.name << ',' << spec.position << ',' << OverallOf(spec) << ',' << spec.passing
-         << ',' << spec.shooting << ',' << spec.defense << ',' << spec.agility << ',' << spec.age
-         << ',' << spec.training;
+  record << man.name << ',' << man.position << ',' << OverallOf(man) << ',' << man.passing << ','
+         << man.shooting << ',' << man.defense << ',' << man.agility << ',' << man.age << ','
+         << man.training;
   return record.str();
 }
 

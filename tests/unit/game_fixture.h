@@ -85,7 +85,7 @@ class GameFixture : public ::testing::Test {
 };
 
 // The nine fields of a record, with an Overall that follows from the skills.
-struct RecordSpec {
+struct ManOfTest {
   std::string name = "John Doe";
   std::string position = "CF";
   int passing = 80;
@@ -95,7 +95,7 @@ struct RecordSpec {
   int age = 20;
   std::string training = "N";
 };
-std::string MakeRecord(const RecordSpec& spec);
+std::string MakeRecord(const ManOfTest& man);
 
 // Eleven records in roster order with all skills at SKILL: GO RD LD RF CF LF on the lead line, RD
 // LD RF CF LF on the training line. The names are all different.
