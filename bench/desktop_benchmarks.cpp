@@ -48,7 +48,6 @@ double MillisecondsAWeek(Program& program) {
 }  // namespace
 
 void PrintDesktopFigures(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", qEnvironmentVariable("QT_QPA_PLATFORM", "offscreen").toUtf8());
   const QApplication application(argc, argv);
   const WorldForBench world;  // lays out and saves the game that the windows take up
   QtDesktop desktop;

@@ -14,4 +14,8 @@ void PrintHundredSeasons();
 // Prints what giving way and waiting cost on the desktop, and a week in its windows.
 void PrintDesktopFigures(int argc, char** argv);
 
+// Starts an empty window and the game in turn, each until its first frame, and prints both medians
+// and their ratio. Their programs lie beside BENCH, the path of the running one.
+void PrintStartupTime(const char* bench);
+
 }  // namespace frostmark

@@ -1,6 +1,7 @@
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
+#include <cstdlib>
 #include <map>
 #include <string>
 
@@ -44,6 +45,8 @@ int main(int argc, char** argv) {
   frostmark::PrintTriesPerLeague();
   frostmark::PrintHundredSeasons();
 #ifdef FROSTMARK_HAS_DESKTOP
+  if (std::getenv("DISPLAY") == nullptr) setenv("QT_QPA_PLATFORM", "offscreen", 0);
+  frostmark::PrintStartupTime(argv[0]);
   frostmark::PrintDesktopFigures(argc, argv);
 #endif
   return 0;

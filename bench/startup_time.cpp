@@ -9,6 +9,9 @@
 #include <string>
 #include <vector>
 
+#include "bench/figures.h"
+
+namespace frostmark {
 namespace {
 
 using Clock = std::chrono::steady_clock;
@@ -39,12 +42,9 @@ double Median(std::vector<double> times) {
 
 }  // namespace
 
-// Starts an empty window and the game in turn, each until its first frame, and prints both medians
-// and their ratio. Uses the display that there is, or the offscreen platform.
-int main(int /*argc*/, char** argv) {
+void PrintStartupTime(const char* bench) {
   constexpr int kStarts = 31;
-  if (std::getenv("DISPLAY") == nullptr) setenv("QT_QPA_PLATFORM", "offscreen", 0);
-  const std::string self = argv[0];
+  const std::string self = bench;
   const std::string folder = self.substr(0, self.rfind('/') + 1);
   std::vector<double> empty;
   std::vector<double> game;
@@ -55,5 +55,6 @@ int main(int /*argc*/, char** argv) {
   std::printf(
       "Start to first frame: %.1f ms, an empty Qt window %.1f ms, ratio %.2f (at most 1.3)\n",
       Median(game), Median(empty), Median(game) / Median(empty));
-  return EXIT_SUCCESS;
 }
+
+}  // namespace frostmark
