@@ -52,9 +52,14 @@ void PrintStartupTime(const char* bench) {
     empty.push_back(MillisecondsOf(folder + "startup-empty-window"));
     game.push_back(MillisecondsOf(folder + "startup-start-screen"));
   }
+  // Without a display no window system takes part, and an empty window starts in half the time that
+  // it takes a user to see it: run the bench under xvfb-run for the figure that counts.
+  const bool shown = std::getenv("DISPLAY") != nullptr;
   std::printf(
-      "Start to first frame: %.1f ms, an empty Qt window %.1f ms, ratio %.2f (at most 1.3)\n",
-      Median(game), Median(empty), Median(game) / Median(empty));
+      "Start to first frame %s: %.1f ms, an empty Qt window %.1f ms, ratio %.2f (at most 1.3 on a "
+      "display)\n",
+      shown ? "on the display" : "off screen", Median(game), Median(empty),
+      Median(game) / Median(empty));
 }
 
 }  // namespace frostmark
