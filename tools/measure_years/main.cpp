@@ -4,8 +4,10 @@
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
+#include <string_view>
 
 #include "tools/measure_years/coach.h"
+#include "tools/measure_years/fingerprint.h"
 #include "tools/measure_years/yearbook.h"
 
 namespace frostmark {
@@ -53,18 +55,36 @@ void Run(int years, int seed) {
   yearbook.Print(std::cout);
 }
 
+// One line a year, so that a change of a rule, or of a byte of a file, shows the year in which it
+// first tells.
+void PrintFingerprints(int years, int seed) {
+  const WorldFolder world;
+  Coach coach(static_cast<std::uint64_t>(seed), world.path());
+  coach.BeginFranchise();
+  std::cout << "0 " << FingerprintOf(world.path()) << '\n';
+  for (int year = 1; year <= years; ++year) {
+    coach.PlayYear();
+    std::cout << year << ' ' << FingerprintOf(world.path()) << '\n';
+  }
+}
+
 }  // namespace
 }  // namespace frostmark
 
 int main(int count, char** arguments) {
+  const bool fingerprints = count > 1 && std::string_view(arguments[1]) == "--fingerprints";
+  if (fingerprints) {
+    ++arguments;
+    --count;
+  }
   const int years = count > 1 ? std::atoi(arguments[1]) : 200;
   const int seed = count > 2 ? std::atoi(arguments[2]) : 1;
   if (count > 3 || years < 1) {
-    (void)std::fputs("usage: frostmark-measure-years [YEARS [SEED]]\n", stderr);
+    (void)std::fputs("usage: frostmark-measure-years [--fingerprints] [YEARS [SEED]]\n", stderr);
     return 2;
   }
   try {
-    frostmark::Run(years, seed);
+    (fingerprints ? frostmark::PrintFingerprints : frostmark::Run)(years, seed);
   } catch (const std::exception& error) {
     (void)std::fprintf(stderr, "%s\n", error.what());
     return 1;
