@@ -7,6 +7,7 @@
 
 #include "console/console.h"
 #include "console/options.h"
+#include "records/world_claim.h"
 
 namespace frostmark {
 namespace {
@@ -64,6 +65,10 @@ int Main(int count, char** arguments) {
   if (options->fresh && !LayOutFolders(options->app_path)) {
     return Fail("frostmark-console: " + options->app_path +
                 " already holds a world, or is no folder to lay one out in\n");
+  }
+  const WorldClaim claim(options->app_path, WorldClaim::Answers::kNo);
+  if (claim.Taken()) {
+    return Fail("frostmark-console: the world in " + options->app_path + " is open already\n");
   }
   Session session{*options, input, options->script.empty() && isatty(STDIN_FILENO) == 1};
   if (!RunOnDeepStack(session)) return Fail("frostmark-console: there is no memory for a stack\n");

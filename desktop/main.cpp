@@ -1,11 +1,28 @@
 #include <QApplication>
 #include <QFile>
 #include <QIcon>
+#include <QMessageBox>
+#include <QSocketNotifier>
+#include <optional>
 
 #include "desktop/qt_desktop.h"
 #include "desktop/style.h"
 #include "records/dice.h"
+#include "records/world_claim.h"
 #include "shell/program.h"
+
+namespace {
+
+constexpr int kWorldIsOpen = 2;
+
+// The world is open elsewhere: in a window, which comes to the front, or in a console.
+int LeaveItToTheOther(const frostmark::WorldClaim& claim) {
+  if (claim.Knock()) return 0;
+  QMessageBox::information(nullptr, QString(), "This world is open in a console.");
+  return kWorldIsOpen;
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
@@ -17,10 +34,21 @@ int main(int argc, char** argv) {
   QApplication::setWindowIcon(icon);
   frostmark::DressApplication();
 
+  const QByteArray folder = QFile::encodeName(QApplication::applicationDirPath());
+  const frostmark::WorldClaim claim(folder.toStdString(), frostmark::WorldClaim::Answers::kYes);
+  if (claim.Taken()) return LeaveItToTheOther(claim);
+
   frostmark::QtDesktop desktop;
   frostmark::ClockDice dice;
-  const QByteArray folder = QFile::encodeName(QApplication::applicationDirPath());
   frostmark::Program program(desktop, dice, folder.toStdString());
+  std::optional<QSocketNotifier> knocks;
+  if (claim.Door() >= 0) {
+    knocks.emplace(claim.Door(), QSocketNotifier::Read);
+    QObject::connect(&*knocks, &QSocketNotifier::activated, &application, [&] {
+      claim.TakeKnocks();
+      desktop.ComeToFront();
+    });
+  }
   desktop.guard().Call([&] { program.Start(); });
   return QApplication::exec();
 }

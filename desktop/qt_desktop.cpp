@@ -101,6 +101,18 @@ QWidget* QtDesktop::FrontWindow() const {
   return nullptr;
 }
 
+void QtDesktop::ComeToFront() {
+  QWidget* front = QApplication::activeModalWidget();
+  if (front == nullptr) front = FrontWindow();
+  if (front == nullptr && !screens_->VisibleOnes().empty()) {
+    front = Window(*screens_->VisibleOnes().back());
+  }
+  if (front == nullptr) return;
+  front->setWindowState(front->windowState() & ~Qt::WindowMinimized);
+  front->raise();
+  front->activateWindow();
+}
+
 Answer QtDesktop::ShowBox(const MessageBox& box) {
   QMessageBox shown(FrontWindow());
   shown.setIcon(Shown(box.icon));

@@ -42,6 +42,10 @@ class QtDesktop : public Desktop, public Screen::Observer {
   // Every way into the game outside the windows, such as its start, goes through this.
   Guard& guard() { return guard_; }
 
+  // Brings what the user is at in front of the windows of other programs: the box that is open, or
+  // the screen in front.
+  void ComeToFront();
+
   // The window of SCREEN, or nullptr when it has not been shown yet.
   ScreenWindow* Window(const Screen& screen) const;
 

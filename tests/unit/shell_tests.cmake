@@ -8,6 +8,7 @@ set(shell_tests
   records_numbers_test.cpp
   records_ratings_test.cpp
   records_settings_test.cpp
+  records_world_claim_test.cpp
   shell_bad_input_test.cpp
   shell_load_test.cpp
   shell_new_franchise_test.cpp
