@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <array>
 
+#include "console/captions.h"
 #include "console/commands.h"
 #include "console/console.h"
 #include "console/refusal.h"
@@ -25,6 +26,23 @@ const Handler& HandlerToClick(Console& console, Words& words, bool checked) {
 void Click(Console& console, Words& words) { Raise(HandlerToClick(console, words, true)); }
 
 void Force(Console& console, Words& words) { Raise(HandlerToClick(console, words, false)); }
+
+// The control that bears the caption which the line ends with, in quotes or without.
+Control& ControlToPress(const ScreenList& screens, Words& words) {
+  if (words.AtEnd()) throw Refusal{"a caption is missing"};
+  std::string caption;
+  if (words.Peek() == '"') {
+    caption = words.Next("a caption");
+    words.ExpectEnd();
+  } else {
+    caption = words.Rest();
+  }
+  return FindByCaption(screens, caption);
+}
+
+void Press(Console& console, Words& words) {
+  Raise(*ClickHandler(ControlToPress(console.program.screens, words)));
+}
 
 struct ChosenItem {
   ListBox& list;
@@ -105,15 +123,17 @@ void Close(Console& console, Words& words) {
   if (screen->on_close() == Screen::OnClose::kEndsProgram) console.desktop.EndProgram();
 }
 
-constexpr std::array<Command, 8> kCommands = {{
-    {"click", Click},
-    {"force", Force},
-    {"select", Select},
-    {"dblclick", DoubleClick},
-    {"type", Type},
-    {"choose", Choose},
-    {"tab", BringToFront},
-    {"close", Close},
+constexpr std::array<Command, 9> kCommands = {{
+    {"press", "CAPTION", "presses what bears CAPTION on a visible screen, the front one first",
+     Press},
+    {"click", "NAME", "presses a button, or clicks a label or picture", Click},
+    {"select", "LIST INDEX", "clicks an item, counted from 0; -1 selects none", Select},
+    {"dblclick", "LIST INDEX", "double clicks an item, counted from 0", DoubleClick},
+    {"type", "TEXTBOX TEXT", "replaces the text, cut at the limit of the box", Type},
+    {"choose", "COMBO TEXT", "chooses an item of a combo box", Choose},
+    {"tab", "TABSTRIP TEXT", "brings a tab to the front", BringToFront},
+    {"close", "SCREEN", "does what the close button of a window does", Close},
+    {"force", "NAME", "like click, also where no person gets to it", Force},
 }};
 
 }  // namespace

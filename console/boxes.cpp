@@ -73,7 +73,7 @@ std::string ConsoleDesktop::AskText(const std::string& prompt) {
 std::optional<std::string> ConsoleDesktop::AskPerson(const char* prompt) {
   transcript_.Prompt(prompt);
   std::string line;
-  if (source_.ReadLine(line)) return line;
+  if (script_.Input().ReadLine(line)) return line;
   transcript_.Line("");
   return std::nullopt;
 }

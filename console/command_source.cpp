@@ -9,11 +9,9 @@
 
 namespace frostmark {
 
-bool CommandSource::HasLine() const {
-  return ended_ || ahead_.find('\n', at_) != std::string::npos;
-}
+bool FileSource::HasLine() const { return ended_ || ahead_.find('\n', at_) != std::string::npos; }
 
-bool CommandSource::Fill() {
+bool FileSource::Fill() {
   ahead_.erase(0, at_);
   at_ = 0;
   std::array<char, 1 << 14> piece;
@@ -29,7 +27,7 @@ bool CommandSource::Fill() {
   return true;
 }
 
-bool CommandSource::ReadLine(std::string& line) {
+bool FileSource::ReadLine(std::string& line) {
   std::size_t end = ahead_.find('\n', at_);
   while (end == std::string::npos && !ended_ && Fill()) end = ahead_.find('\n', at_);
   if (end == std::string::npos && at_ == ahead_.size()) return false;
@@ -40,12 +38,15 @@ bool CommandSource::ReadLine(std::string& line) {
   return true;
 }
 
-bool CommandSource::WaitForInput(Time at_most) const {
-  if (HasLine()) return true;
-  pollfd input{descriptor_, POLLIN, 0};
+bool FileSource::WaitForInput(Time at_most) {
+  return HasLine() || WaitToRead(descriptor_, at_most);
+}
+
+bool WaitToRead(int descriptor, CommandSource::Time at_most) {
+  pollfd input{descriptor, POLLIN, 0};
   const timespec limit{static_cast<time_t>(at_most.count() / 1'000'000),
                        static_cast<long>(at_most.count() % 1'000'000 * 1000)};
-  return ppoll(&input, 1, at_most == Time::max() ? nullptr : &limit, nullptr) > 0;
+  return ppoll(&input, 1, at_most == CommandSource::Time::max() ? nullptr : &limit, nullptr) > 0;
 }
 
 }  // namespace frostmark

@@ -5,21 +5,38 @@
 
 namespace frostmark {
 
-// Where command lines come from: an open file, a pipe or a terminal. It reads ahead, so that a long
-// script costs few system calls.
+// Where command lines come from.
 class CommandSource {
  public:
   using Time = std::chrono::microseconds;
 
-  // Reads from DESCRIPTOR, which stays the caller's.
-  explicit CommandSource(int descriptor) : descriptor_(descriptor) {}
+  CommandSource() = default;
+  CommandSource(const CommandSource&) = delete;
+  CommandSource& operator=(const CommandSource&) = delete;
+  virtual ~CommandSource() = default;
 
   // Takes the next line, without its end, waiting for it if need be. False at the end of the input.
-  bool ReadLine(std::string& line);
-  // Whether ReadLine would answer from what is read already.
-  bool HasLine() const;
-  // Waits until there is something to read, but no longer than AT_MOST.
-  bool WaitForInput(Time at_most) const;
+  virtual bool ReadLine(std::string& line) = 0;
+  // Whether ReadLine would answer without waiting.
+  virtual bool HasLine() const = 0;
+  // Waits until ReadLine would answer, or may, but no longer than AT_MOST.
+  virtual bool WaitForInput(Time at_most) = 0;
+};
+
+// Waits until there is something to read from DESCRIPTOR, but no longer than AT_MOST. False when
+// there is nothing, or when a signal came first.
+bool WaitToRead(int descriptor, CommandSource::Time at_most);
+
+// An open file, a pipe, or a terminal as it comes. It reads ahead, so that a long script costs few
+// system calls.
+class FileSource : public CommandSource {
+ public:
+  // Reads from DESCRIPTOR, which stays the caller's.
+  explicit FileSource(int descriptor) : descriptor_(descriptor) {}
+
+  bool ReadLine(std::string& line) override;
+  bool HasLine() const override;
+  bool WaitForInput(Time at_most) override;
 
  private:
   bool Fill();

@@ -5,13 +5,29 @@
 
 namespace frostmark {
 
+std::vector<const Command*> AllCommands() {
+  std::vector<const Command*> all;
+  for (const auto group :
+       {ActionCommands(), QuestionCommands(), SessionCommands(), ScriptCommands()}) {
+    for (const Command& command : group) all.push_back(&command);
+  }
+  return all;
+}
+
 const Command* FindCommand(std::string_view name) {
-  for (const auto commands : {ActionCommands(), QuestionCommands(), SessionCommands()}) {
-    for (const Command& command : commands) {
+  for (const auto group :
+       {ActionCommands(), QuestionCommands(), SessionCommands(), ScriptCommands()}) {
+    for (const Command& command : group) {
       if (command.name == name) return &command;
     }
   }
   return nullptr;
+}
+
+std::string Explained(const Command& command) {
+  std::string text(command.name);
+  if (!command.arguments.empty()) text.append(" ").append(command.arguments);
+  return text.append(": ").append(command.does);
 }
 
 void CheckReach(const Control& control) {

@@ -14,16 +14,16 @@ ConsoleClock ClockFor(const Options& options, bool interactive) {
 
 }  // namespace
 
-Console::Console(const Options& options, Transcript& printed, CommandSource& source,
+Console::Console(const Options& options, Transcript& printed, ScriptStack& commands,
                  bool interactive)
     : transcript(printed),
-      desktop(printed, source, ClockFor(options, interactive), interactive),
+      script(commands),
+      desktop(printed, commands, ClockFor(options, interactive), interactive),
       dice(printed),
       program(desktop, dice, options.app_path),
-      names(program),
-      source_(source) {
+      names(program) {
   desktop.SetCommands(this);
-  if (interactive) prompt_ = std::make_unique<Prompt>(program, transcript, source);
+  if (interactive) prompt_ = std::make_unique<Prompt>(program, transcript, commands);
 }
 
 int Console::Run() {
@@ -33,7 +33,8 @@ int Console::Run() {
     transcript.Line(std::string("fatal: ") + error.what());
     return 3;
   }
-  return transcript.HasRefused() ? 1 : 0;
+  transcript.Flush();
+  return transcript.HasRefused() || !transcript.IsHeard() ? 1 : 0;
 }
 
 void Console::RunCommands() {
@@ -51,7 +52,7 @@ void Console::BeforeInput() {
 
 void Console::RunNextCommand() {
   std::string line;
-  if (!source_.ReadLine(line)) throw ConsoleEnded();
+  if (!transcript.IsHeard() || !script.ReadLine(line)) throw ConsoleEnded();
   if (prompt_ && !prompt_->Translate(line)) return;
   RunLine(line);
 }

@@ -4,12 +4,12 @@
 #include <string>
 #include <string_view>
 
-#include "console/command_source.h"
 #include "console/console_desktop.h"
 #include "console/console_dice.h"
 #include "console/names.h"
 #include "console/options.h"
 #include "console/prompt.h"
+#include "console/script_stack.h"
 #include "console/transcript.h"
 #include "shell/program.h"
 
@@ -20,13 +20,15 @@ namespace frostmark {
 // and the handler that it raises are kept small.
 class Console : private ConsoleDesktop::Commands {
  public:
-  // PRINTED and SOURCE outlive the console. INTERACTIVE: a person sits in front of it.
-  Console(const Options& options, Transcript& printed, CommandSource& source, bool interactive);
+  // PRINTED and COMMANDS outlive the console. INTERACTIVE: a person sits in front of it.
+  Console(const Options& options, Transcript& printed, ScriptStack& commands, bool interactive);
 
-  // Returns the exit code: 0, 1 (a command was refused) or 3 (ended by an error of the game).
+  // Returns the exit code: 0, 1 (a command was refused, or what is printed reaches nobody) or 3
+  // (ended by an error of the game).
   int Run();
 
   Transcript& transcript;
+  ScriptStack& script;
   ConsoleDesktop desktop;
   ConsoleDice dice;
   Program program;
@@ -39,7 +41,6 @@ class Console : private ConsoleDesktop::Commands {
   void Execute(std::string_view line);
   void RunCommands();
 
-  CommandSource& source_;
   std::unique_ptr<Prompt> prompt_;  // in front of a person only
 };
 

@@ -21,10 +21,10 @@ Time SinceStart() {
 
 }  // namespace
 
-ConsoleDesktop::ConsoleDesktop(Transcript& transcript, CommandSource& source, ConsoleClock clock,
+ConsoleDesktop::ConsoleDesktop(Transcript& transcript, ScriptStack& script, ConsoleClock clock,
                                bool interactive)
     : transcript_(transcript),
-      source_(source),
+      script_(script),
       real_(clock == ConsoleClock::kReal),
       interactive_(interactive),
       attentive_(real_) {
@@ -81,7 +81,7 @@ void ConsoleDesktop::Step(Time limit) {
     WaitForCommand(limit);
   } else {
     commands_->BeforeInput();
-    if (!source_.HasLine()) transcript_.Flush();
+    if (!script_.HasLine()) transcript_.Flush();
     commands_->RunNextCommand();
   }
 }
@@ -125,11 +125,11 @@ void ConsoleDesktop::SleepUntil(Time time) {
 
 void ConsoleDesktop::WaitForCommand(Time limit) {
   commands_->BeforeInput();
-  if (!source_.HasLine()) {
+  if (!script_.HasLine()) {
     transcript_.Flush();
     const Time end = std::min(limit, Timers().NextDue().value_or(limit));
     const Time at_most = end == Time::max() ? end : std::max(Time(0), end - Now());
-    if (!source_.WaitForInput(at_most)) {
+    if (!script_.WaitForInput(at_most)) {
       SyncClock();
       Timers().TickOne();
       return;

@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "console/command_source.h"
 #include "console/options.h"
+#include "console/script_stack.h"
 #include "console/transcript.h"
 #include "ui/headless_desktop.h"
 
@@ -35,8 +35,7 @@ class ConsoleDesktop : public HeadlessDesktop {
     virtual void RunLine(const std::string& line) = 0;
   };
 
-  ConsoleDesktop(Transcript& transcript, CommandSource& source, ConsoleClock clock,
-                 bool interactive);
+  ConsoleDesktop(Transcript& transcript, ScriptStack& script, ConsoleClock clock, bool interactive);
   void SetCommands(Commands* commands) { commands_ = commands; }
 
   // One step of time that passes, or of waiting for a command: a tick, a command, or a moment that
@@ -77,7 +76,7 @@ class ConsoleDesktop : public HeadlessDesktop {
   Answer AskPersonBox();
 
   Transcript& transcript_;
-  CommandSource& source_;
+  ScriptStack& script_;
   const bool real_;
   const bool interactive_;
   Commands* commands_ = nullptr;

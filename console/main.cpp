@@ -2,7 +2,9 @@
 #include <pthread.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <cstdio>
+#include <filesystem>
 #include <memory>
 
 #include "console/console.h"
@@ -11,8 +13,6 @@
 
 namespace frostmark {
 namespace {
-
-constexpr int kWrongUsage = 2;
 
 // A press that waits for good stays on the stack below all that the user does afterwards. Memory is
 // taken only as deep as the stack really grows, so a stack for thousands of such presses costs
@@ -29,9 +29,10 @@ struct Session {
 void* RunSession(void* argument) {
   auto& session = *static_cast<Session*>(argument);
   Transcript transcript;
-  CommandSource source(session.input);
+  FileSource input(session.input);
+  ScriptStack script(input, std::filesystem::path(session.options.script).parent_path().string());
   const auto console =
-      std::make_unique<Console>(session.options, transcript, source, session.interactive);
+      std::make_unique<Console>(session.options, transcript, script, session.interactive);
   session.exit_code = console->Run();
   return nullptr;
 }
@@ -55,8 +56,11 @@ int Fail(const std::string& text) {
 }
 
 int Main(int count, char** arguments) {
-  const auto options = ReadOptions(count, arguments);
-  if (!options) return Fail(kUsage);
+  // A reader that has gone away is met where a command would be read, never inside of a save.
+  std::signal(SIGPIPE, SIG_IGN);
+  int exit_code = 0;
+  const auto options = ReadOptions(count, arguments, exit_code);
+  if (!options) return exit_code;
   int input = STDIN_FILENO;
   if (!options->script.empty()) {
     input = open(options->script.c_str(), O_RDONLY | O_CLOEXEC);

@@ -1,8 +1,9 @@
 #include "console/options.h"
 
+#include <CLI/CLI.hpp>
 #include <array>
 #include <filesystem>
-#include <string_view>
+#include <iostream>
 #include <system_error>
 
 namespace frostmark {
@@ -33,30 +34,46 @@ bool HoldsFiles(const fs::path& folder) {
 }  // namespace
 
 const char* const kUsage =
-    "usage: frostmark-console [--app-path DIR] [--fresh] [--clock real|virtual] [SCRIPT]\n";
+    "usage: frostmark-console [--app-path DIR] [--fresh] [--clock real|virtual] [SCRIPT]\n"
+    "       frostmark-console --help | --version\n";
 
-std::optional<Options> ReadOptions(int count, char** arguments) {
+std::optional<Options> ReadOptions(int count, char** arguments, int& exit_code) {
   Options options;
-  options.app_path = FolderOfProgram().string();
-  for (int i = 1; i < count; ++i) {
-    const std::string_view word = arguments[i];
-    const bool more = i + 1 < count;
-    if (word == "--fresh") {
-      options.fresh = true;
-    } else if (word == "--app-path" && more && arguments[i + 1][0] != '\0') {
-      options.app_path = WithoutSeparatorAtEnd(arguments[++i]);
-    } else if (word == "--clock" && more && std::string_view(arguments[i + 1]) == "real") {
-      options.clock = ConsoleClock::kReal;
-      ++i;
-    } else if (word == "--clock" && more && std::string_view(arguments[i + 1]) == "virtual") {
-      options.clock = ConsoleClock::kVirtual;
-      ++i;
-    } else if (!word.empty() && !word.starts_with("-") && options.script.empty()) {
-      options.script = word;
-    } else {
-      return std::nullopt;
-    }
+  std::string clock;
+  CLI::App app("Frostmark as text: a hockey franchise in a terminal or played by a script.",
+               "frostmark-console");
+  app.set_version_flag("--version", "frostmark-console " FROSTMARK_VERSION, "Print the version");
+  app.set_help_flag("-h,--help", "Print this help");
+  app.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
+  const auto not_empty = [](const std::string& text) {
+    return text.empty() ? std::string("is empty") : std::string();
+  };
+  app.add_option("--app-path", options.app_path, "The folder of the world")
+      ->option_text("DIR")
+      ->check(not_empty);
+  app.add_flag("--fresh", options.fresh, "First lay out the empty folders of a new world")
+      ->disable_flag_override();
+  app.add_option("--clock", clock, "real: waits as a person does; virtual: only on command")
+      ->option_text("real|virtual")
+      ->check(CLI::IsMember({"real", "virtual"}));
+  app.add_option("SCRIPT", options.script, "A file of commands (standard input)")
+      ->option_text(" ")
+      ->multi_option_policy(CLI::MultiOptionPolicy::Throw)
+      ->check(not_empty);
+  try {
+    app.parse(count, arguments);
+  } catch (const CLI::Success& wish) {
+    exit_code = app.exit(wish);
+    return std::nullopt;
+  } catch (const CLI::ParseError& error) {
+    std::cerr << "frostmark-console: " << error.what() << '\n' << kUsage;
+    exit_code = kWrongUsage;
+    return std::nullopt;
   }
+  if (!clock.empty())
+    options.clock = clock == "real" ? ConsoleClock::kReal : ConsoleClock::kVirtual;
+  options.app_path = options.app_path.empty() ? FolderOfProgram().string()
+                                              : WithoutSeparatorAtEnd(options.app_path);
   return options;
 }
 

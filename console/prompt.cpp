@@ -13,10 +13,10 @@ constexpr std::size_t kColumnWidth = 38;
 
 }  // namespace
 
-Prompt::Prompt(Program& program, Transcript& transcript, CommandSource& source)
+Prompt::Prompt(Program& program, Transcript& transcript, ScriptStack& script)
     : program_(program),
       transcript_(transcript),
-      source_(source),
+      script_(script),
       game_news_(program.game.Events, true, *this),
       draft_news_(program.f_draft.Events, false, *this) {
   program.game.Events.SetObserver(&game_news_);
@@ -116,7 +116,7 @@ bool Prompt::PickEntry(std::string& line) {
 bool Prompt::AskForRest(const MenuEntry& entry, std::string& rest) {
   if (entry.asks == MenuEntry::Asks::kNothing) return true;
   transcript_.Prompt(entry.asks == MenuEntry::Asks::kItem ? "number of the item> " : "text> ");
-  return source_.ReadLine(rest) && (entry.asks == MenuEntry::Asks::kText || !rest.empty());
+  return script_.Input().ReadLine(rest) && (entry.asks == MenuEntry::Asks::kText || !rest.empty());
 }
 
 }  // namespace frostmark

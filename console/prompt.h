@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "console/command_source.h"
 #include "console/menu.h"
+#include "console/script_stack.h"
 #include "console/transcript.h"
 #include "records/record_list.h"
 #include "shell/program.h"
@@ -16,7 +16,7 @@ namespace frostmark {
 // a draft as they come.
 class Prompt {
  public:
-  Prompt(Program& program, Transcript& transcript, CommandSource& source);
+  Prompt(Program& program, Transcript& transcript, ScriptStack& script);
   ~Prompt();
   Prompt(const Prompt&) = delete;
   Prompt& operator=(const Prompt&) = delete;
@@ -56,7 +56,7 @@ class Prompt {
 
   Program& program_;
   Transcript& transcript_;
-  CommandSource& source_;
+  ScriptStack& script_;
   News game_news_;
   News draft_news_;
   std::vector<MenuEntry> menu_;

@@ -1,6 +1,7 @@
 // What prints something and changes nothing.
 #include <array>
 
+#include "console/captions.h"
 #include "console/commands.h"
 #include "console/console.h"
 #include "console/drawing.h"
@@ -67,12 +68,37 @@ void Stats(Console& console, Words& words) {
                           std::to_string(counts.file_writes));
 }
 
-constexpr std::array<Command, 5> kCommands = {{
-    {"show", Show},
-    {"state", State},
-    {"screens", Screens},
-    {"draw", Draw},
-    {"stats", Stats},
+void Controls(Console& console, Words& words) {
+  const std::string name = words.Next("a screen");
+  words.ExpectEnd();
+  const Screen* const screen = console.names.Find(name).screen;
+  if (screen == nullptr) throw Refusal{name + " is no screen"};
+  for (Control* control : screen->Controls()) {
+    if (!control->NeverShown()) console.transcript.Line(Described(*control));
+  }
+}
+
+void Help(Console& console, Words& words) {
+  if (words.AtEnd()) {
+    for (const Command* command : AllCommands()) console.transcript.Line(Explained(*command));
+    return;
+  }
+  const std::string name = words.Next("a command");
+  words.ExpectEnd();
+  const Command* const command = FindCommand(name);
+  if (command == nullptr) throw Refusal{name + " is no command"};
+  console.transcript.Line(Explained(*command));
+}
+
+constexpr std::array<Command, 7> kCommands = {{
+    {"show", "NAME", "prints a text, or a list with its items", Show},
+    {"state", "NAME", "prints whether it is visible and enabled", State},
+    {"controls", "SCREEN", "prints what is on a screen: kind, state, what it is called, text",
+     Controls},
+    {"screens", "", "prints the visible screens, in the order in which they were shown", Screens},
+    {"draw", "", "draws the visible screens", Draw},
+    {"stats", "", "prints rolls, yields, waits, and files read and written", Stats},
+    {"help", "[COMMAND]", "explains a command, or all of them", Help},
 }};
 
 }  // namespace

@@ -125,19 +125,21 @@ void Exit(Console& /*console*/, Words& words) {
 }
 
 constexpr std::array<Command, 13> kCommands = {{
-    {"wait", Wait},
-    {"until", Until},
-    {"answer", QueueAnswer},
-    {"answers", ForgetAnswers},
-    {"rolls", QueueRolls},
-    {"trace", Trace},
-    {"set", Set},
-    {"add", Add},
-    {"put", Put},
-    {"clear", Clear},
-    {"call", Call},
-    {"soon", Soon},
-    {"exit", Exit},
+    {"wait", "SECONDS", "lets time pass", Wait},
+    {"until", "NAME visible|hidden|enabled|disabled|= TEXT", "lets time pass until it is so",
+     Until},
+    {"answer", "TEXT", "queues an answer for the next box: yes, no, ok, a text, cancel",
+     QueueAnswer},
+    {"answers", "none", "forgets the queued answers", ForgetAnswers},
+    {"rolls", "N...", "gives the next results of the dice", QueueRolls},
+    {"trace", "rolls on|off", "prints every roll, or no longer", Trace},
+    {"set", "NAME TEXT", "sets a caption or a variable", Set},
+    {"add", "LIST TEXT", "appends an item to a list", Add},
+    {"put", "LIST INDEX TEXT", "replaces an item of a list", Put},
+    {"clear", "LIST", "empties a list", Clear},
+    {"call", "PROCEDURE ARGUMENT...", "calls a procedure of the game, prints = RESULT", Call},
+    {"soon", "LINE", "runs LINE at the next yield of what comes next", Soon},
+    {"exit", "", "ends the console at once", Exit},
 }};
 
 }  // namespace

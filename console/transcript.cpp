@@ -41,10 +41,13 @@ void Transcript::Prompt(std::string_view text) {
 
 void Transcript::Flush() {
   std::string_view rest = waiting_;
-  while (!rest.empty()) {
+  while (is_heard_ && !rest.empty()) {
     const ssize_t written = write(STDOUT_FILENO, rest.data(), rest.size());
     if (written < 0 && errno == EINTR) continue;
-    if (written <= 0) break;  // nobody listens any more
+    if (written <= 0) {
+      is_heard_ = false;
+      break;
+    }
     rest.remove_prefix(static_cast<std::size_t>(written));
   }
   waiting_.clear();

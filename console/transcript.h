@@ -22,11 +22,14 @@ class Transcript {
   void Prompt(std::string_view text);
   void Flush();
 
+  // False when what is printed can no longer be written: nobody reads it, or there is no room.
+  bool IsHeard() const { return is_heard_; }
   bool HasRefused() const { return has_refused_; }
 
  private:
   std::string waiting_;
   bool has_refused_ = false;
+  bool is_heard_ = true;
 };
 
 }  // namespace frostmark
