@@ -2,7 +2,7 @@
 #include <system_error>
 
 #include "records/ordvik.h"
-#include "records/runtime_error.h"
+#include "records/whole_file.h"
 
 namespace frostmark {
 
@@ -18,15 +18,14 @@ void Ordvik::DeleteFile(const std::string& path) {
   if (FileExists(path)) fs::remove(path, error);
 }
 
-void Ordvik::MoveFile(const std::string& source, const std::string& destination) {
-  if (!FileExists(source)) throw RuntimeError("File not found: " + source);
-  std::error_code error;
-  fs::rename(source, destination, error);
-  if (!error) return;
-  // Another file system, or no right to rename: a copy first, so that the team is never in none.
-  fs::copy_file(source, destination, fs::copy_options::overwrite_existing, error);
-  if (error) throw RuntimeError("File cannot be moved: " + source + " (" + error.message() + ")");
-  fs::remove(source, error);
+bool Ordvik::MoveFile(const std::string& source, const std::string& destination) {
+  return FileExists(source) && MoveWholeFile(source, destination) == 0;
+}
+
+bool Ordvik::IsFileName(std::string_view name) {
+  constexpr std::string_view kNoPartOfName("/\0", 2);
+  return !name.empty() && name != "." && name != ".." &&
+         name.find_first_of(kNoPartOfName) == std::string_view::npos;
 }
 
 std::string Ordvik::RankFolder(std::string_view rank) const {

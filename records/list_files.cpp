@@ -1,7 +1,6 @@
 #include "records/item_reader.h"
 #include "records/ordvik.h"
 #include "records/player_record.h"
-#include "records/whole_file.h"
 
 namespace frostmark {
 namespace {
@@ -30,7 +29,7 @@ class RecordBuilder {
 
 }  // namespace
 
-void Ordvik::SaveListFile(const RecordList& list, const std::string& path) {
+std::string Ordvik::LinesOf(const RecordList& list) {
   std::string content;
   const int count = list.ListCount();
   for (int i = 0; i < count; ++i) {
@@ -38,20 +37,25 @@ void Ordvik::SaveListFile(const RecordList& list, const std::string& path) {
     content += "\r\n";
     queue_.Yield();
   }
-  StoreWhole(path, content);
+  return content;
 }
 
-// The temporary file lies in Settings and never in a league folder, where every file is a team. It
-// has one name, so that a killed program leaves at most one behind, which the next write takes.
-void Ordvik::StoreWhole(const std::string& path, std::string_view content) {
+void Ordvik::SaveListFile(const RecordList& list, const std::string& path) {
+  const std::string content = LinesOf(list);
   ++counts_.file_writes;
-  ReplaceFile(path, SettingsPath("unfinished.tmp"), content);
+  (void)files_.Write(path, content);
+}
+
+void Ordvik::SaveListFile(const RecordList& list, const std::string& path, FileStore::Save& save) {
+  std::string content = LinesOf(list);
+  ++counts_.file_writes;
+  save.Hold(path, std::move(content));
 }
 
 void Ordvik::LoadPlayerFile(RecordList& list, const std::string& path) {
   ++counts_.file_reads;
   RecordBuilder builder;
-  auto content = ReadWholeFile(path);
+  auto content = files_.Read(path);
   if (!content) {
     // The test for the end of a file that is not open is passed over like any other failure, so the
     // reading goes on for good. A list that is full grows no further.
@@ -69,7 +73,7 @@ void Ordvik::LoadPlayerFile(RecordList& list, const std::string& path) {
 
 void Ordvik::LoadSettingsList(RecordList& list, const std::string& name) {
   ++counts_.file_reads;
-  auto content = ReadWholeFile(SettingsPath(name));
+  auto content = files_.Read(SettingsPath(name));
   if (!content) {
     while (true) {  // as in LoadPlayerFile
       list.AddItem("");

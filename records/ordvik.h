@@ -1,12 +1,14 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
 #include "records/dice.h"
+#include "records/file_store.h"
 #include "records/record_list.h"
 #include "records/ui_queue.h"
 
@@ -34,6 +36,8 @@ class Ordvik {
   // Writes LIST to PATH, a line an item, each ended by CR LF. Yields after each line. The file at
   // PATH is the old one or the new one at every moment.
   void SaveListFile(const RecordList& list, const std::string& path);
+  // The same, held back by SAVE until that is committed.
+  void SaveListFile(const RecordList& list, const std::string& path, FileStore::Save& save);
   // Appends a record to LIST for each nine items of the file at PATH; an incomplete last record is
   // lost. Yields after each item. When there is no such file it never returns: it appends records
   // of eight commas, one every nine waits, and the user stays free to act meanwhile.
@@ -50,20 +54,31 @@ class Ordvik {
   // Several WriteSettings, in order, that reach the disk together or not at all.
   using Setting = std::pair<std::string_view, std::string>;
   void WriteSettings(const std::vector<Setting>& settings);
+  // The same, held back by SAVE until that is committed.
+  void WriteSettings(const std::vector<Setting>& settings, FileStore::Save& save);
+  // The values of KEYS out of one reading of the file, each as by ReadSetting; nothing when the
+  // file cannot be read.
+  std::optional<std::vector<std::string>> ReadSettings(const std::vector<std::string_view>& keys);
 
   // folders.cpp
   // Whether PATH is a file (a folder is none).
   static bool FileExists(const std::string& path);
   // Deletes the file at PATH; what cannot be deleted stays.
   static void DeleteFile(const std::string& path);
-  // Moves the file SOURCE to DESTINATION, over a file that may be there. Throws RuntimeError when
-  // SOURCE is not there or DESTINATION cannot be written; SOURCE is then where it was.
-  static void MoveFile(const std::string& source, const std::string& destination);
+  // Moves the file SOURCE to DESTINATION, over a file that may be there. False when that is not
+  // possible; SOURCE is then whole where it was, and DESTINATION holds no part of it.
+  static bool MoveFile(const std::string& source, const std::string& destination);
+  // Whether NAME can be the name of a file in a folder: not empty, and no way into another folder.
+  static bool IsFileName(std::string_view name);
   // The folder of the league RANK ("Rank F" to "Rank A"), without a separator at its end.
   std::string RankFolder(std::string_view rank) const;
   // The file of TEAM in the league RANK.
   std::string TeamPath(std::string_view rank, std::string_view team) const;
+  // The file NAME in Settings.
+  std::string SettingsPath(std::string_view name) const;
   const std::string& AppPath() const { return app_path_; }
+  // How files reach the disk, for what lies below the operations of the game.
+  FileStore& files() { return files_; }
 
   // draft/cpu_draft.cpp
   // Waits until the clock has moved on by SECONDS, a number as text. A wait that spans midnight
@@ -83,13 +98,13 @@ class Ordvik {
   const Counts& counts() const { return counts_; }
 
  private:
-  void StoreWhole(const std::string& path, std::string_view content);
-  std::string SettingsPath(std::string_view name) const;
+  std::string LinesOf(const RecordList& list);
 
   Program& program_;
   UiQueue& queue_;
   Dice& dice_;
   std::string app_path_;
+  FileStore files_;
   Counts counts_;
 };
 

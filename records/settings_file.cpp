@@ -2,7 +2,6 @@
 #include <optional>
 
 #include "records/ordvik.h"
-#include "records/whole_file.h"
 
 namespace frostmark {
 namespace {
@@ -102,17 +101,48 @@ std::string_view Unquoted(std::string_view value) {
   return quoted ? value.substr(1, value.size() - 2) : value;
 }
 
-}  // namespace
+// What reading would take off a value's ends is saved by a pair of quotes around it.
+std::string Quoted(const std::string& value) {
+  constexpr std::string_view kTakenOff = " \t\"'";
+  const bool needed = !value.empty() && (kTakenOff.find(value.front()) != std::string_view::npos ||
+                                         kTakenOff.find(value.back()) != std::string_view::npos);
+  return needed ? '"' + value + '"' : value;
+}
 
-std::string Ordvik::ReadSetting(std::string_view key) {
-  ++counts_.file_reads;
-  const auto content = ReadWholeFile(SettingsPath(kSettingsFile));
-  if (!content) return {};
-  const Lines lines = SplitLines(*content);
+std::string ValueIn(const Lines& lines, std::string_view key) {
   const auto place = FindKey(lines, FindSection(lines), key);
   if (!place) return {};
   const std::string_view line = lines[*place];
   return std::string(Unquoted(Trimmed(line.substr(line.find('=') + 1))).substr(0, kLongestValue));
+}
+
+std::string WithSettings(std::string_view content, const std::vector<Ordvik::Setting>& settings) {
+  Lines lines = SplitLines(content);
+  for (const auto& [key, value] : settings) Store(lines, key, Quoted(value));
+  std::string text;
+  for (const std::string& line : lines) {
+    text += line;
+    text += "\r\n";
+  }
+  return text;
+}
+
+}  // namespace
+
+std::optional<std::vector<std::string>> Ordvik::ReadSettings(
+    const std::vector<std::string_view>& keys) {
+  ++counts_.file_reads;
+  const auto content = files_.Read(SettingsPath(kSettingsFile));
+  if (!content) return std::nullopt;
+  const Lines lines = SplitLines(*content);
+  std::vector<std::string> values;
+  for (const std::string_view key : keys) values.push_back(ValueIn(lines, key));
+  return values;
+}
+
+std::string Ordvik::ReadSetting(std::string_view key) {
+  const auto values = ReadSettings({key});
+  return values ? values->front() : "";
 }
 
 void Ordvik::WriteSetting(std::string_view key, std::string_view value) {
@@ -120,14 +150,15 @@ void Ordvik::WriteSetting(std::string_view key, std::string_view value) {
 }
 
 void Ordvik::WriteSettings(const std::vector<Setting>& settings) {
-  Lines lines = SplitLines(ReadWholeFile(SettingsPath(kSettingsFile)).value_or(""));
-  for (const auto& [key, value] : settings) Store(lines, key, value);
-  std::string content;
-  for (const std::string& line : lines) {
-    content += line;
-    content += "\r\n";
-  }
-  StoreWhole(SettingsPath(kSettingsFile), content);
+  ++counts_.file_writes;
+  const std::string path = SettingsPath(kSettingsFile);
+  (void)files_.Write(path, WithSettings(files_.Read(path).value_or(""), settings));
+}
+
+void Ordvik::WriteSettings(const std::vector<Setting>& settings, FileStore::Save& save) {
+  ++counts_.file_writes;
+  const std::string path = SettingsPath(kSettingsFile);
+  save.Hold(path, WithSettings(files_.Read(path).value_or(""), settings));
 }
 
 }  // namespace frostmark

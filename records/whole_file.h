@@ -1,17 +1,43 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
 
 namespace frostmark {
 
-// The bytes of the file at PATH, or nothing when there is no file that can be read.
+// The largest file that is read. A world's files have a few hundred bytes.
+inline constexpr std::size_t kLargestFile = std::size_t{16} << 20U;
+
+// The bytes of the file at PATH, or nothing when they cannot all be read: no such file, a read
+// error, anything but a regular file (a pipe would wait for its writer), more than kLargestFile.
 std::optional<std::string> ReadWholeFile(const std::string& path);
 
-// Makes CONTENT the file at PATH: writes it to TEMPORARY, then renames that over PATH, so that a
-// reader and a killed program find the old file or the new one. Where the rename is not possible
-// PATH is written in place. On a full disk the old file stays. Reports nothing.
-void ReplaceFile(const std::string& path, const std::string& temporary, std::string_view content);
+// Whether nothing at all lies at PATH, not even a link that leads nowhere.
+bool NothingLiesAt(const std::string& path);
+
+// The functions below report failure by an error number of <cerrno>; 0 is success.
+
+// Makes a new file at PATH, with the permissions of the file at LIKE if there is one, and flushes
+// it to the disk. EEXIST when something lies at PATH. After any failure nothing is left of it.
+int WriteNewFile(const std::string& path, std::string_view content, const std::string& like);
+
+// Writes CONTENT over the file at PATH, or makes it, and flushes it. Room is taken before the first
+// byte changes, so that a full disk costs nothing; a program killed in the middle leaves a mixture.
+// Only a regular file is written, never through a link.
+int OverwriteFile(const std::string& path, std::string_view content);
+
+// Whether ERROR says that a new file is not allowed where an old one may still be written over: no
+// right to make one, another file system, no folder. A lack of room is none of these.
+bool OnlyOverwritingMayHelp(int error);
+
+// Moves the file SOURCE to DESTINATION, over a file that may be there: by a rename or, between two
+// file systems, by a copy. After a failure SOURCE is whole where it was, and DESTINATION holds no
+// part of it.
+int MoveWholeFile(const std::string& source, const std::string& destination);
+
+// Flushes the entries of FOLDER to the disk: what files it holds and how they are called.
+int FlushFolder(const std::string& folder);
 
 }  // namespace frostmark

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <unistd.h>
 
+#include <csignal>
 #include <filesystem>
 
 #include "records/runtime_error.h"
@@ -113,17 +116,42 @@ TEST_F(BadInputTest, WithoutASettingsFolderTeamsAreStillWritten) {
   EXPECT_EQ(world.FileNames("Rank F"), (Lines{"Boston Braves"}));
 }
 
+// A disk on which no file can grow beyond BYTES.
+class FullDisk {
+ public:
+  explicit FullDisk(rlim_t bytes) : signal_(std::signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit limit{bytes, before_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  FullDisk(const FullDisk&) = delete;
+  FullDisk& operator=(const FullDisk&) = delete;
+  ~FullDisk() {
+    setrlimit(RLIMIT_FSIZE, &before_);
+    (void)std::signal(SIGXFSZ, signal_);
+  }
+
+ private:
+  void (*signal_)(int);
+  rlimit before_{};
+};
+
 TEST_F(BadInputTest, AFullDiskLeavesTheOldFile) {
-  ASSERT_TRUE(fs::exists("/dev/full"));
   Save(MakeRoster(80), TeamFile());
-  fs::create_symlink("/dev/full", world.SettingsPath("unfinished.tmp"));
-  Save(MakeRoster(90), TeamFile());
+  for (const rlim_t room : {0, 1, 100}) {
+    const FullDisk full(room);
+    Save(MakeRoster(90), TeamFile());
+  }
   EXPECT_EQ(ReadLines(TeamFile()), MakeRoster(80));
   EXPECT_EQ(world.FileNames("Rank F"), (Lines{"Boston Braves"}));
+  EXPECT_TRUE(world.SettingsNames().empty());
 }
 
 TEST_F(BadInputTest, AnUnfinishedFileThatIsAFolderIsGoneRound) {
-  fs::create_directories(world.SettingsPath("unfinished.tmp") + "/within");
+  const std::string own = "unfinished." + std::to_string(getpid());
+  for (const char* rest : {".0.tmp", ".1.tmp"}) {
+    fs::create_directories(world.SettingsPath(own + rest) + "/within");
+  }
   Save(MakeRoster(80), TeamFile());
   EXPECT_EQ(ReadLines(TeamFile()), MakeRoster(80));
 }
