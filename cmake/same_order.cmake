@@ -6,7 +6,7 @@ if(CPACK_GENERATOR STREQUAL TGZ)
     execute_process(
       COMMAND tar --create --sort=name --owner=0 --group=0 --numeric-owner --format=gnu
         --directory "${CPACK_TOPLEVEL_DIRECTORY}" "${folder}"
-      COMMAND gzip -9n
+      COMMAND gzip -n
       OUTPUT_FILE "${archive}" COMMAND_ERROR_IS_FATAL ANY)
   endforeach()
 endif()
