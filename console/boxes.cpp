@@ -71,7 +71,8 @@ std::string ConsoleDesktop::AskText(const std::string& prompt) {
 }
 
 std::optional<std::string> ConsoleDesktop::AskPerson(const char* prompt) {
-  transcript_.Prompt(prompt);
+  if (!script_.Input().ShowPrompt(prompt)) transcript_.Prompt(prompt);
+  transcript_.Flush();
   std::string line;
   if (script_.Input().ReadLine(line)) return line;
   transcript_.Line("");

@@ -17,11 +17,6 @@ bool Bears(Control& control, std::string_view caption) {
   return words != nullptr && words == caption;
 }
 
-bool CanBePressed(Control& control) {
-  const Handler* const handler = ClickHandler(control);
-  return handler != nullptr && *handler && InSight(control) && control.Enabled();
-}
-
 const char* KindWord(ControlKind kind) {
   switch (kind) {
     case ControlKind::kLabel:
@@ -55,6 +50,18 @@ const char* KindWord(ControlKind kind) {
 }
 
 }  // namespace
+
+bool CanBePressed(Control& control) {
+  const Handler* const handler = ClickHandler(control);
+  return handler != nullptr && *handler && InSight(control) && control.Enabled();
+}
+
+std::string CaptionToPress(Control& control) {
+  const char* const words = HintFor(control);
+  if (words != nullptr && *words != '\0') return words;
+  const CaptionedControl* const captioned = AsCaptioned(control);
+  return captioned == nullptr ? "" : captioned->Caption();
+}
 
 Control& FindByCaption(const ScreenList& screens, std::string_view caption) {
   const std::vector<Screen*> visible = screens.VisibleOnes();

@@ -21,6 +21,8 @@ class CommandSource {
   virtual bool HasLine() const = 0;
   // Waits until ReadLine would answer, or may, but no longer than AT_MOST.
   virtual bool WaitForInput(Time at_most) = 0;
+  // Shows PROMPT in front of the lines that follow, if it is up to the source; false if it is not.
+  virtual bool ShowPrompt(const std::string& /*prompt*/) { return false; }
 };
 
 // Waits until there is something to read from DESCRIPTOR, but no longer than AT_MOST. False when

@@ -23,7 +23,7 @@ Console::Console(const Options& options, Transcript& printed, ScriptStack& comma
       program(desktop, dice, options.app_path),
       names(program) {
   desktop.SetCommands(this);
-  if (interactive) prompt_ = std::make_unique<Prompt>(program, transcript, commands);
+  if (interactive) prompt_ = std::make_unique<Prompt>(program, names, transcript, commands);
 }
 
 int Console::Run() {
@@ -47,7 +47,11 @@ void Console::RunCommands() {
 }
 
 void Console::BeforeInput() {
-  if (prompt_) prompt_->Refresh();
+  if (prompt_ && !script.AboveInput()) prompt_->Refresh();
+}
+
+void Console::BeforeSleep() {
+  if (prompt_) prompt_->ShowStatus();
 }
 
 void Console::RunNextCommand() {

@@ -36,6 +36,7 @@ class Console : private ConsoleDesktop::Commands {
 
  private:
   void BeforeInput() override;
+  void BeforeSleep() override;
   void RunNextCommand() override;
   void RunLine(const std::string& line) override;
   void Execute(std::string_view line);

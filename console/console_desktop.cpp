@@ -115,6 +115,7 @@ void ConsoleDesktop::PassTime(Time limit) {
 void ConsoleDesktop::SleepUntil(Time time) {
   if (time <= Now()) return;
   if (real_) {
+    commands_->BeforeSleep();
     transcript_.Flush();
     std::this_thread::sleep_for(time - Now());
     SyncClock();

@@ -30,6 +30,8 @@ class ConsoleDesktop : public HeadlessDesktop {
     virtual ~Commands() = default;
     // A command may come now: called before input is waited for, again and again.
     virtual void BeforeInput() = 0;
+    // Time is about to pass by itself.
+    virtual void BeforeSleep() = 0;
     // Reads a command and runs it. Throws ConsoleEnded behind the last one.
     virtual void RunNextCommand() = 0;
     virtual void RunLine(const std::string& line) = 0;

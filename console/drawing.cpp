@@ -1,6 +1,9 @@
 #include "console/drawing.h"
 
+#include <algorithm>
+#include <iterator>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "console/hints.h"
@@ -9,9 +12,9 @@
 namespace frostmark {
 namespace {
 
-constexpr std::size_t kLineWidth = 78;
-constexpr int kBarWidth = 40;
+constexpr std::size_t kBarWidth = 40;
 constexpr std::size_t kShortValue = 3;
+constexpr std::size_t kIndent = 4;
 
 bool LeftOut(const Control& control) {
   const char* const hint = HintFor(control);
@@ -23,18 +26,25 @@ bool LeftOut(const Control& control) {
 // one line, neighbouring lists beside one another.
 class ScreenDrawing {
  public:
-  explicit ScreenDrawing(Transcript& transcript) : transcript_(transcript) {}
+  explicit ScreenDrawing(const Page& page) : page_(page) {}
 
-  void Draw(const Screen& screen) {
+  TextLines Draw(const Screen& screen) {
     DrawTitle(screen);
     for (Control* control : screen.Controls()) {
-      if (InSight(*control)) DrawControl(*control);
+      if (!InSight(*control)) continue;
+      if (page_.for_menu) GatherFrames(*control);
+      DrawControl(*control);
     }
     FlushAll();
-    if (!buttons_.empty()) transcript_.Line("  " + buttons_);
+    PutFrames();
+    if (!buttons_.empty()) Line("  " + buttons_);
+    return std::move(lines_);
   }
 
  private:
+  void Line(const std::string& text);
+  void GatherFrames(const Control& next);
+  void PutFrames();
   void DrawTitle(const Screen& screen);
   void DrawControl(Control& control);
   void DrawLabel(const Label& label);
@@ -47,6 +57,9 @@ class ScreenDrawing {
   void FlushLists();
   void FlushAll();
 
+  // Where lines are broken, the margin and the gaps count.
+  std::size_t RoomForValues() const { return page_.for_menu ? page_.width - 5 : page_.width; }
+
   std::string Heading(const Control& control) {
     const char* const hint = HintFor(control);
     std::string heading = !name_.empty() ? name_ : hint != nullptr ? hint : control.Name() + ":";
@@ -54,17 +67,43 @@ class ScreenDrawing {
     return heading;
   }
 
-  Transcript& transcript_;
-  std::string name_;              // of what comes next
-  std::string values_;            // short values, gathered
-  std::vector<TextLines> lists_;  // neighbouring lists, gathered
+  const Page page_;
+  TextLines lines_;
+  std::vector<TextLines> frames_;  // neighbouring frames, gathered; the last one goes on
+  std::string name_;               // of what comes next
+  std::string values_;             // short values, gathered
+  std::vector<TextLines> lists_;   // neighbouring lists, gathered
   std::string buttons_;
 };
 
+void ScreenDrawing::Line(const std::string& text) {
+  TextLines& lines = frames_.empty() ? lines_ : frames_.back();
+  if (!page_.for_menu) return lines.push_back(text);
+  const TextLines wrapped = Wrapped(text, page_.width, kIndent);
+  lines.insert(lines.end(), wrapped.begin(), wrapped.end());
+}
+
+// Frames stand beside one another until something outside of them comes.
+void ScreenDrawing::GatherFrames(const Control& next) {
+  if (next.Kind() == ControlKind::kFrame) {
+    FlushAll();
+    frames_.emplace_back();
+  } else if (next.place().frame == nullptr && !frames_.empty()) {
+    FlushAll();
+    PutFrames();
+  }
+}
+
+void ScreenDrawing::PutFrames() {
+  TextLines lines = PutSideBySide(frames_, page_.width);
+  std::move(lines.begin(), lines.end(), std::back_inserter(lines_));
+  frames_.clear();
+}
+
 void ScreenDrawing::DrawTitle(const Screen& screen) {
   std::string title = "== " + TitleFor(screen) + (screen.Minimized() ? " (minimized) " : " ");
-  title.append(kLineWidth - std::min(kLineWidth, WidthOf(title)), '=');
-  transcript_.Line(title);
+  title.append(page_.width - std::min(page_.width, WidthOf(title)), '=');
+  Line(title);
 }
 
 void ScreenDrawing::DrawControl(Control& control) {
@@ -83,7 +122,7 @@ void ScreenDrawing::DrawControl(Control& control) {
       return DrawValue("[" + static_cast<CaptionedControl&>(control).Caption() + "]");
     case ControlKind::kFrame:
       FlushAll();
-      return transcript_.Line(" -- " + static_cast<Frame&>(control).Caption());
+      return Line(" -- " + static_cast<Frame&>(control).Caption());
     case ControlKind::kTabStrip:
       return DrawTabs(static_cast<TabStrip&>(control));
     case ControlKind::kProgressBar:
@@ -114,8 +153,8 @@ void ScreenDrawing::DrawValue(const std::string& value) {
   std::string line = name_.empty() ? Printable(value) : name_ + " " + Printable(value);
   const bool is_short = !name_.empty() && !value.empty() && value.size() <= kShortValue;
   name_.clear();
-  if (!is_short || values_.size() + line.size() > kLineWidth) FlushValues();
-  if (!is_short) return transcript_.Line("  " + line);
+  if (!is_short || values_.size() + line.size() > RoomForValues()) FlushValues();
+  if (!is_short) return Line("  " + line);
   values_ += (values_.empty() ? "" : "   ") + line;
 }
 
@@ -126,18 +165,18 @@ void ScreenDrawing::DrawTabs(const TabStrip& strip) {
   for (const std::string& tab : strip.Tabs()) {
     line += tab == strip.FrontTab() ? " [" + tab + "]" : "  " + tab + " ";
   }
-  transcript_.Line(line);
+  Line(line);
 }
 
 void ScreenDrawing::DrawBar(const ProgressBar& bar) {
   FlushAll();
   const auto full = static_cast<std::size_t>(bar.Value() * kBarWidth / bar.Max());
-  transcript_.Line("  " + Heading(bar) + " [" + std::string(full, '#') +
-                   std::string(kBarWidth - full, '.') + "] " + std::to_string(bar.Value()) + "/" +
-                   std::to_string(bar.Max()));
+  Line("  " + Heading(bar) + " [" + std::string(full, '#') + std::string(kBarWidth - full, '.') +
+       "] " + std::to_string(bar.Value()) + "/" + std::to_string(bar.Max()));
 }
 
 void ScreenDrawing::AddButton(const Button& button) {
+  if (page_.for_menu && button.Enabled()) return;
   const std::string caption =
       button.Enabled() ? "<" + button.Caption() + ">" : "(" + button.Caption() + ")";
   buttons_ += (buttons_.empty() ? "" : " ") + caption;
@@ -146,16 +185,16 @@ void ScreenDrawing::AddButton(const Button& button) {
 void ScreenDrawing::AddList(const ListBox& list) {
   if (LeftOut(list)) return;
   FlushValues();
-  lists_.push_back(DrawList(list, Heading(list)));
+  lists_.push_back(DrawList(list, Heading(list), page_.list_rows));
 }
 
 void ScreenDrawing::FlushValues() {
-  if (!values_.empty()) transcript_.Line("  " + values_);
+  if (!values_.empty()) Line("  " + values_);
   values_.clear();
 }
 
 void ScreenDrawing::FlushLists() {
-  for (const std::string& line : PutSideBySide(lists_)) transcript_.Line("  " + line);
+  for (const std::string& line : PutSideBySide(lists_, page_.lists_width)) Line("  " + line);
   lists_.clear();
 }
 
@@ -175,8 +214,17 @@ bool InSight(const Control& control) {
   return place.tab_strip->Front() == place.page && InSight(*place.tab_strip);
 }
 
-void DrawScreens(const ScreenList& screens, Transcript& transcript) {
-  for (const Screen* screen : screens.VisibleOnes()) ScreenDrawing(transcript).Draw(*screen);
+TextLines DrawScreen(const Screen& screen, const Page& page) {
+  return ScreenDrawing(page).Draw(screen);
+}
+
+TextLines DrawScreens(const ScreenList& screens, const Page& page) {
+  TextLines all;
+  for (const Screen* screen : screens.VisibleOnes()) {
+    TextLines lines = DrawScreen(*screen, page);
+    std::move(lines.begin(), lines.end(), std::back_inserter(all));
+  }
+  return all;
 }
 
 }  // namespace frostmark

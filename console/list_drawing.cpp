@@ -7,13 +7,11 @@
 namespace frostmark {
 namespace {
 
-constexpr int kMostRows = 22;
-constexpr std::size_t kScreenWidth = 100;
 constexpr std::size_t kGap = 3;
 
-int FirstRow(const ListBox& list) {
-  const int last_start = std::max(0, list.ListCount() - kMostRows);
-  if (list.ListIndex() >= 0) return std::clamp(list.ListIndex() - kMostRows / 2, 0, last_start);
+int FirstRow(const ListBox& list, int most_rows) {
+  const int last_start = std::max(0, list.ListCount() - most_rows);
+  if (list.ListIndex() >= 0) return std::clamp(list.ListIndex() - most_rows / 2, 0, last_start);
   return GrowsAtItsEnd(list) ? last_start : 0;
 }
 
@@ -43,24 +41,10 @@ void PutRow(const std::vector<TextLines>& blocks, std::size_t first, std::size_t
 
 }  // namespace
 
-std::size_t WidthOf(std::string_view text) {
-  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) {
-    return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;
-  }));
-}
-
-std::string Printable(std::string_view text) {
-  std::string printable(text);
-  for (char& c : printable) {
-    if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F) c = '?';
-  }
-  return printable;
-}
-
-TextLines DrawList(const ListBox& list, const std::string& heading) {
+TextLines DrawList(const ListBox& list, const std::string& heading, int most_rows) {
   TextLines lines = {heading + (list.Enabled() ? "" : " (closed)")};
-  const int first = FirstRow(list);
-  const int end = std::min(list.ListCount(), first + kMostRows);
+  const int first = FirstRow(list, most_rows);
+  const int end = std::min(list.ListCount(), first + most_rows);
   if (first > 0) lines.push_back("     ... " + std::to_string(first) + " before");
   for (int i = first; i < end; ++i) {
     const std::string number = std::to_string(i);
@@ -75,13 +59,13 @@ TextLines DrawList(const ListBox& list, const std::string& heading) {
   return lines;
 }
 
-TextLines PutSideBySide(const std::vector<TextLines>& blocks) {
+TextLines PutSideBySide(const std::vector<TextLines>& blocks, std::size_t width_of_page) {
   TextLines lines;
   std::size_t first = 0;
   while (first < blocks.size()) {
     std::size_t end = first + 1;
     std::size_t width = BlockWidth(blocks[first]);
-    while (end < blocks.size() && width + kGap + BlockWidth(blocks[end]) <= kScreenWidth) {
+    while (end < blocks.size() && width + kGap + BlockWidth(blocks[end]) <= width_of_page) {
       width += kGap + BlockWidth(blocks[end++]);
     }
     PutRow(blocks, first, end, lines);

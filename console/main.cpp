@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "console/console.h"
+#include "console/line_editor.h"
 #include "console/options.h"
 #include "records/world_claim.h"
 
@@ -26,11 +27,18 @@ struct Session {
   int exit_code = 0;
 };
 
+std::unique_ptr<CommandSource> OpenInput(const Session& session) {
+  if (session.interactive && LineEditor::CanEdit()) {
+    return std::make_unique<LineEditor>(HistoryFile());
+  }
+  return std::make_unique<FileSource>(session.input);
+}
+
 void* RunSession(void* argument) {
   auto& session = *static_cast<Session*>(argument);
   Transcript transcript;
-  FileSource input(session.input);
-  ScriptStack script(input, std::filesystem::path(session.options.script).parent_path().string());
+  const std::unique_ptr<CommandSource> input = OpenInput(session);
+  ScriptStack script(*input, std::filesystem::path(session.options.script).parent_path().string());
   const auto console =
       std::make_unique<Console>(session.options, transcript, script, session.interactive);
   session.exit_code = console->Run();
@@ -45,6 +53,12 @@ bool RunOnDeepStack(Session& session) {
     pthread_t thread{};
     const int error = pthread_create(&thread, &attributes, RunSession, &session);
     pthread_attr_destroy(&attributes);
+    if (error == 0) {
+      // Signals are for the session: its terminal is put right by them.
+      sigset_t all;
+      sigfillset(&all);
+      pthread_sigmask(SIG_BLOCK, &all, nullptr);
+    }
     if (error == 0) return pthread_join(thread, nullptr) == 0;
   }
   return false;

@@ -2,8 +2,8 @@
 
 #include "console/drawing.h"
 #include "console/hints.h"
-#include "console/list_drawing.h"
 #include "console/names.h"
+#include "console/text_layout.h"
 
 namespace frostmark {
 namespace {
@@ -66,21 +66,13 @@ void AddControl(const Screen& screen, Control& control, std::vector<MenuEntry>& 
 
 }  // namespace
 
-std::vector<MenuEntry> MenuOf(const ScreenList& screens) {
+std::vector<MenuEntry> MenuOf(const Screen& screen) {
   std::vector<MenuEntry> menu;
-  const std::vector<Screen*> visible = screens.VisibleOnes();
-  for (const Screen* screen : visible) {
-    const std::size_t first = menu.size();
-    for (Control* control : screen->Controls()) {
-      if (InSight(*control) && control->Enabled()) AddControl(*screen, *control, menu);
-    }
-    if (screen->border() == Screen::Border::kTitleBar) {
-      menu.push_back({"Close", "close " + screen->Name(), Asks::kNothing});
-    }
-    if (visible.size() == 1) continue;
-    for (std::size_t i = first; i < menu.size(); ++i) {
-      menu[i].words = TitleFor(*screen) + ": " + menu[i].words;
-    }
+  for (Control* control : screen.Controls()) {
+    if (InSight(*control) && control->Enabled()) AddControl(screen, *control, menu);
+  }
+  if (screen.border() == Screen::Border::kTitleBar) {
+    menu.push_back({"Close", "close " + screen.Name(), Asks::kNothing});
   }
   return menu;
 }

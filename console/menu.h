@@ -18,7 +18,7 @@ struct MenuEntry {
   bool operator==(const MenuEntry&) const = default;
 };
 
-// All that can be done on the visible screens of SCREENS, screen by screen.
-std::vector<MenuEntry> MenuOf(const ScreenList& screens);
+// All that can be done on SCREEN.
+std::vector<MenuEntry> MenuOf(const Screen& screen);
 
 }  // namespace frostmark

@@ -124,6 +124,12 @@ const Variable& Names::FindVariable(const std::string& name) {
   return found->second;
 }
 
+std::vector<std::string> Names::Variables() const {
+  std::vector<std::string> all;
+  for (const auto& [name, variable] : variables_) all.push_back(name);
+  return all;
+}
+
 CaptionedControl* AsCaptioned(Control& control) {
   return dynamic_cast<CaptionedControl*>(&control);
 }

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 #include "shell/program.h"
 
@@ -37,6 +38,8 @@ class Names {
   Control& FindControl(const std::string& name);
   RecordList& FindList(const std::string& name);
   const Variable& FindVariable(const std::string& name);
+  // The names of all variables.
+  std::vector<std::string> Variables() const;
 
  private:
   void AddVariables(Program& program);

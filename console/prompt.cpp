@@ -1,76 +1,102 @@
 #include "console/prompt.h"
 
+#include <algorithm>
 #include <charconv>
 #include <iterator>
 
-#include "console/drawing.h"
-#include "console/list_drawing.h"
+#include "console/completion.h"
+#include "console/front_page.h"
+#include "console/hints.h"
+#include "console/text_layout.h"
 
 namespace frostmark {
 namespace {
 
-constexpr std::size_t kColumnWidth = 38;
+constexpr const char* kLook = "look ";
 
 }  // namespace
 
-Prompt::Prompt(Program& program, Transcript& transcript, ScriptStack& script)
+Prompt::Prompt(Program& program, Names& names, Transcript& transcript, ScriptStack& script)
     : program_(program),
       transcript_(transcript),
       script_(script),
-      game_news_(program.game.Events, true, *this),
-      draft_news_(program.f_draft.Events, false, *this) {
-  program.game.Events.SetObserver(&game_news_);
-  program.f_draft.Events.SetObserver(&draft_news_);
+      editor_(dynamic_cast<LineEditor*>(&script.Input())),
+      news_(program, [this](const std::string& line, bool lasting) { Tell(line, lasting); }) {
+  if (editor_ != nullptr) {
+    footer_.emplace(transcript, *editor_);
+    editor_->SetCompleter([&names, &program](const std::string& line) {
+      return CompletionsOf(line, names, program.screens);
+    });
+  }
+  transcript_.PrintForPerson([this] {
+    if (footer_) footer_->TakeAway();
+  });
   transcript_.Line(
-      "Frostmark. A number picks an entry of the menu, Enter draws anew, help tells more.");
+      "Frostmark. A number picks an entry of the menu, Enter draws the screen again, help tells "
+      "more.");
 }
 
-Prompt::~Prompt() {
-  program_.game.Events.SetObserver(nullptr);
-  program_.f_draft.Events.SetObserver(nullptr);
-}
-
-void Prompt::Tell(const std::string& news) {
+void Prompt::Tell(const std::string& news, bool lasting) {
+  if (footer_ && !lasting) return;  // the status tells it
   if (prompted_) transcript_.Line("");
   prompted_ = false;
-  transcript_.Line("  * " + Printable(news));
+  transcript_.Line("  * " + news);
+}
+
+void Prompt::ShowStatus() {
+  if (footer_) footer_->Show(news_.Status());
+}
+
+// The one shown last, unless the person looks at another until something changes.
+void Prompt::FindFront() {
+  std::vector<Screen*> visible = program_.screens.VisibleOnes();
+  if (visible == visible_) return;
+  visible_ = std::move(visible);
+  front_ = visible_.empty() ? nullptr : visible_.back();
+}
+
+std::vector<MenuEntry> Prompt::MenuOfFront() const {
+  if (front_ == nullptr) return {};
+  std::vector<MenuEntry> menu = MenuOf(*front_);
+  for (const Screen* screen : visible_) {
+    if (screen == front_) continue;
+    menu.push_back({"Look at: " + Printable(TitleFor(*screen)), kLook + screen->Name(),
+                    MenuEntry::Asks::kNothing});
+  }
+  return menu;
 }
 
 void Prompt::Refresh() {
-  std::vector<MenuEntry> menu = MenuOf(program_.screens);
-  if (!drawn_ || menu != menu_) {
+  if (editor_ != nullptr) PrintFound(editor_->TakeFound());
+  FindFront();
+  std::vector<MenuEntry> menu = MenuOfFront();
+  const TerminalSize size = SizeOfTerminal();
+  if (!drawn_ || menu != menu_ || size != size_) {
     if (prompted_) transcript_.Line("");
     menu_ = std::move(menu);
+    size_ = size;
     Draw();
     drawn_ = true;
     prompted_ = false;
   }
-  if (!prompted_) transcript_.Prompt("> ");
+  ShowStatus();
+  if (script_.Input().ShowPrompt(kCommandPrompt)) return;
+  if (!prompted_) transcript_.Prompt(kCommandPrompt);
   prompted_ = true;
 }
 
 void Prompt::Draw() {
+  if (front_ == nullptr) return;
+  const std::size_t rows_below = news_.Status().empty() ? 1 : 2;
   transcript_.Line("");
-  DrawScreens(program_.screens, transcript_);
-  transcript_.Line("");
-  std::string line;
-  for (std::size_t i = 0; i < menu_.size(); ++i) {
-    const std::string number = std::to_string(i + 1);
-    std::string entry =
-        std::string(number.size() < 3 ? 3 - number.size() : 0, ' ') + number + " " + menu_[i].words;
-    if (!line.empty() && WidthOf(entry) < kColumnWidth) {
-      transcript_.Line(line + entry);
-      line.clear();
-      continue;
-    }
-    if (!line.empty()) transcript_.Line(line);
-    line = std::move(entry);
-    line.append(kColumnWidth - std::min(kColumnWidth, WidthOf(line)), ' ');
-    if (WidthOf(line) > kColumnWidth) {
-      transcript_.Line(line);
-      line.clear();
-    }
+  for (const std::string& line : DrawFrontPage(*front_, menu_, size_, rows_below)) {
+    transcript_.Line(line);
   }
+}
+
+void Prompt::PrintFound(const std::vector<std::string>& words) {
+  std::string line;
+  for (const std::string& word : words) line += (line.empty() ? "" : "   ") + word;
   if (!line.empty()) transcript_.Line(line);
 }
 
@@ -78,23 +104,41 @@ void Prompt::Help() {
   transcript_.Line("A number picks an entry of the menu; an item or a text can follow it: 4 2");
   transcript_.Line("The same in words, with the names that the commands of a script use:");
   for (const MenuEntry& entry : menu_) {
+    if (entry.command.starts_with(kLook)) continue;
     const char* const rest = entry.asks == MenuEntry::Asks::kItem   ? " ITEM"
                              : entry.asks == MenuEntry::Asks::kText ? " TEXT"
                                                                     : "";
     transcript_.Line("  " + entry.command + rest);
   }
-  transcript_.Line("Others: wait SECONDS, show NAME, state NAME, screens, draw, stats, exit.");
+  transcript_.Line(
+      "Or press what you read: press New. Tab completes, the arrows bring back what was typed. "
+      "Others: wait SECONDS, show NAME, controls SCREEN, draw, exit; help COMMAND explains one.");
 }
 
 bool Prompt::Translate(std::string& line) {
   prompted_ = false;
+  if (footer_) footer_->LeaveBehind();
   const bool has_words = line.find_first_not_of(" \t") != std::string::npos;
   if (line == "help" || line == "?") {
     Help();
     return false;
   }
   drawn_ = false;
-  return has_words && PickEntry(line);
+  if (script_.AboveInput()) {
+    FindFront();
+    menu_ = MenuOfFront();
+  }
+  return has_words && line != "draw" && PickEntry(line) && !LookAt(line);
+}
+
+bool Prompt::LookAt(const std::string& line) {
+  if (!line.starts_with(kLook)) return false;
+  const auto found = std::find_if(visible_.begin(), visible_.end(), [&](const Screen* screen) {
+    return kLook + screen->Name() == line;
+  });
+  if (found == visible_.end()) return false;
+  front_ = *found;
+  return true;
 }
 
 bool Prompt::PickEntry(std::string& line) {
@@ -115,7 +159,10 @@ bool Prompt::PickEntry(std::string& line) {
 
 bool Prompt::AskForRest(const MenuEntry& entry, std::string& rest) {
   if (entry.asks == MenuEntry::Asks::kNothing) return true;
-  transcript_.Prompt(entry.asks == MenuEntry::Asks::kItem ? "number of the item> " : "text> ");
+  const char* const prompt =
+      entry.asks == MenuEntry::Asks::kItem ? "number of the item> " : "text> ";
+  if (!script_.Input().ShowPrompt(prompt)) transcript_.Prompt(prompt);
+  transcript_.Flush();
   return script_.Input().ReadLine(rest) && (entry.asks == MenuEntry::Asks::kText || !rest.empty());
 }
 

@@ -55,7 +55,9 @@ void Screens(Console& console, Words& words) {
 
 void Draw(Console& console, Words& words) {
   words.ExpectEnd();
-  DrawScreens(console.program.screens, console.transcript);
+  for (const std::string& line : DrawScreens(console.program.screens, Page{})) {
+    console.transcript.Line(line);
+  }
 }
 
 void Stats(Console& console, Words& words) {

@@ -4,10 +4,14 @@
 
 #include <cerrno>
 
+#include "console/terminal_size.h"
+#include "console/text_layout.h"
+
 namespace frostmark {
 namespace {
 
 constexpr std::size_t kEnough = 1 << 16;
+constexpr std::size_t kIndent = 4;
 
 void AppendEscaped(std::string& out, std::string_view text) {
   for (std::size_t i = 0; i < text.size(); ++i) {
@@ -24,6 +28,17 @@ void AppendEscaped(std::string& out, std::string_view text) {
 }  // namespace
 
 void Transcript::Line(std::string_view text) {
+  if (!for_person_) return PrintLine(text);
+  if (before_line_) before_line_();
+  std::string escaped;
+  AppendEscaped(escaped, text);
+  for (const std::string& line :
+       Wrapped(Printable(escaped), SizeOfTerminal().columns - 1, kIndent)) {
+    PrintLine(line);
+  }
+}
+
+void Transcript::PrintLine(std::string_view text) {
   AppendEscaped(waiting_, text);
   waiting_ += '\n';
   if (waiting_.size() > kEnough) Flush();
