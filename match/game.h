@@ -100,7 +100,7 @@ class Game : public Screen {
   void OutletStep();
   void ShotStep();
   void FaceOff();
-  int FindCentre(const RecordList& line);
+  std::string FindCentre(const RecordList& line);
   void NotePasser();
   void PassAlong(const char* passes);
   void MeetDefender(std::string_view position, Int16& defense);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -39,13 +40,15 @@ class GameSimulation {
   void OutletStep();
   void ShotStep();
   void FaceOff();
-  int FindPlayer(const RecordList& line, std::string_view position);
+  void FindPlayer(const RecordList& line, std::string_view position, std::string& found);
   void NotePasser();
   void PassAlong();
   void MeetDefender(std::string_view position, Int16& defense);
   void TurnOver();
 
   Program& program_;
+  // The memory of the last face-off's two centres, so that the next one allocates none.
+  std::array<std::string, 2> spare_centres_;
 };
 
 }  // namespace frostmark

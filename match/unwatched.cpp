@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "match/game_simulation.h"
 #include "shell/program.h"
 
@@ -112,27 +114,33 @@ void GameSimulation::PassAlong() {
   }
 }
 
-// The index of the last player of LINE at POSITION, -1 if there is none.
-int GameSimulation::FindPlayer(const RecordList& line, std::string_view position) {
-  int found = -1;
+// Puts the record of the last player of LINE at POSITION into FOUND, if there is one.
+void GameSimulation::FindPlayer(const RecordList& line, std::string_view position,
+                                std::string& found) {
   const int count = line.ListCount();
   for (int i = 0; i < count; ++i) {
-    if (Plays(line.List(i), position)) found = i;
+    if (Plays(line.List(i), position)) found = line.List(i);
     program_.desktop.Yield();
   }
-  return found;
 }
 
 void GameSimulation::FaceOff() {
   const RecordList& line1 = program_.franchise.Line1Stats;
   const RecordList& line2 = program_.franchise.Line2Stats;
-  int centre1 = FindPlayer(line1, "CF");
-  int centre2 = FindPlayer(line2, "CF");
+  // The records themselves and not their places: a handler may clear the lines meanwhile.
+  std::string centre1 = std::exchange(spare_centres_[0], {});
+  std::string centre2 = std::exchange(spare_centres_[1], {});
+  centre1.clear();
+  centre2.clear();
+  FindPlayer(line1, "CF", centre1);
+  FindPlayer(line2, "CF", centre2);
   // A line without a centre sends its right forward; one without either sends nobody.
-  if (centre1 < 0) centre1 = FindPlayer(line1, "RF");
-  if (centre2 < 0) centre2 = FindPlayer(line2, "RF");
+  if (centre1.empty()) FindPlayer(line1, "RF", centre1);
+  if (centre2.empty()) FindPlayer(line2, "RF", centre2);
   const bool first_wins = program_.ordvik.RollUpTo(2) == 1;
-  PuckCarrier = first_wins ? line1.List(centre1) : line2.List(centre2);
+  PuckCarrier = first_wins ? centre1 : centre2;
+  spare_centres_[0] = std::move(centre1);
+  spare_centres_[1] = std::move(centre2);
   PuckTeam = first_wins ? 1 : 2;
   LoadIceLists();
   // PuckPosition stays on purpose: the first pass starts from where play last stood.

@@ -84,11 +84,12 @@ void Game::PassAlong(const char* passes) {
   }
 }
 
-int Game::FindCentre(const RecordList& line) {
-  int found = -1;
+// The record itself and not its place: a handler may clear the line meanwhile.
+std::string Game::FindCentre(const RecordList& line) {
+  std::string found;
   const int count = line.ListCount();
   for (int i = 0; i < count; ++i) {
-    if (Plays(line.List(i), "CF")) found = i;
+    if (Plays(line.List(i), "CF")) found = line.List(i);
     program_.desktop.Yield();
   }
   return found;
@@ -96,10 +97,10 @@ int Game::FindCentre(const RecordList& line) {
 
 // No right forward stands in for a missing centre here: that team's centre is nobody.
 void Game::FaceOff() {
-  const int centre1 = FindCentre(Line1Stats);
-  const int centre2 = FindCentre(Line2Stats);
+  const std::string centre1 = FindCentre(Line1Stats);
+  const std::string centre2 = FindCentre(Line2Stats);
   const bool first_wins = program_.ordvik.RollUpTo(2) == 1;
-  PuckCarrier = first_wins ? Line1Stats.List(centre1) : Line2Stats.List(centre2);
+  PuckCarrier = first_wins ? centre1 : centre2;
   PuckTeam = first_wins ? 1 : 2;
   LoadIceLists();
   Report({NameOf(PuckCarrier), " wins the face off!"});

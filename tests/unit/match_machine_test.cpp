@@ -54,6 +54,21 @@ TYPED_TEST(MatchMachineTest, AFaceOffIsATossAndOneToSixPasses) {
   EXPECT_EQ(ItemsOf(this->lists().DefList), Reversed(this->line1));
 }
 
+TYPED_TEST(MatchMachineTest, ACentreOnceFoundTakesThePuckThoughTheLinesAreClearedMeanwhile) {
+  for (const int winner : {1, 2}) {
+    this->LineUp(LeadLine(1), LeadLine(2));
+    for (int yield = 1; yield < 12; ++yield) this->desktop().AtYield([] {});
+    this->desktop().AtYield([this] {  // both lines have been walked
+      this->lists().Line1Stats.Clear();
+      this->lists().Line2Stats.Clear();
+    });
+    this->Play({winner, 3});
+    EXPECT_EQ(this->machine().PuckCarrier, (winner == 1 ? this->line1 : this->line2)[kCF]);
+    EXPECT_EQ(this->machine().PuckTeam, winner);
+    EXPECT_EQ(this->lists().LineList.ListCount(), 0);
+  }
+}
+
 TYPED_TEST(MatchMachineTest, AFaceOffLeavesThePuckPositionAlone) {
   this->machine().PuckPosition = "LD";
   this->Play({1, 3});
