@@ -53,34 +53,30 @@ WinsAndLosses ReadWinsAndLosses(std::string_view line) {
 void HockeyNaming::RateTeam(const RecordList& list) {
   TeamOffense = 0;
   TeamDefense = 0;
-  // The sums of this walk: another rating may run in its yields and leave others behind.
-  Int16 offense;
-  Int16 defense;
   int forwards = 0;
   int backs = 0;
-  bool whole = true;
   const int count = list.ListCount();
-  for (int i = 0; i < count && whole; ++i) {
+  for (int i = 0; i < count; ++i) {
     const std::string& record = list.List(i);
+    // After an empty item the plain sums stay, and TeamOverall as it was.
+    if (record.empty()) return;
     const std::string_view position = FieldView(record, Field::kPosition);
+    // The two variables are everybody's: a rating that runs in the yield leaves its result in them,
+    // and the rest of this walk is added to that.
     if (IsForward(position)) {
-      offense = RoundHalfToEven(offense + OverallOf(record));
+      TeamOffense = RoundHalfToEven(TeamOffense + OverallOf(record));
       ++forwards;
     } else if (IsBack(position)) {
-      defense = RoundHalfToEven(defense + OverallOf(record));
+      TeamDefense = RoundHalfToEven(TeamDefense + OverallOf(record));
       ++backs;
     }
-    TeamOffense = offense;
-    TeamDefense = defense;
-    whole = !record.empty();
-    if (whole) queue_.Yield();
+    queue_.Yield();
   }
-  TeamOffense = offense;
-  TeamDefense = defense;
-  // After an empty item the plain sums stay, and TeamOverall as it was.
-  if (!whole || offense == 0 || defense == 0) return;
-  TeamOffense = DivideHalfToEven(offense, forwards);
-  TeamDefense = DivideHalfToEven(defense, backs);
+  if (TeamOffense == 0 || TeamDefense == 0) return;
+  // Sums of another rating alone: there is nobody here to divide them by.
+  if (forwards == 0 || backs == 0) return;
+  TeamOffense = DivideHalfToEven(TeamOffense, forwards);
+  TeamDefense = DivideHalfToEven(TeamDefense, backs);
   TeamOverall = DivideHalfToEven(TeamOffense + TeamDefense, 2);
 }
 

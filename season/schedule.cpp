@@ -56,7 +56,8 @@ void Franchise::FindOpponent(const std::string& name1, const std::string& name2,
     tempList.Clear();
     const auto* const league = std::find_if(
         kRanks.begin(), kRanks.end(), [&](const char* name) { return LetterOf(name) == rank; });
-    if (league != kRanks.end()) {
+    // In a league that has lost a team somebody meets nobody, and there is no file to read.
+    if (league != kRanks.end() && !opponent.empty()) {
       program_.ordvik.LoadPlayerFile(tempList, program_.ordvik.TeamPath(*league, opponent));
     }
     OppTeam.SetCaption(opponent);

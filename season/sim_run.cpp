@@ -30,7 +30,9 @@ void Franchise::PressSim() {
   const std::string answer = program_.desktop.AskText("Simulate until which week?");
   if (!IsNumeric(answer)) return refuse("You must enter a valid number!");
   const double target = std::floor(LenientNumber(answer));
-  const Int16 current = StrictInt16(WithoutPrefix(NextWeek.Caption()));
+  // A marker without a number, as in a damaged save, counts as week 0. It is a week that no press
+  // moves on from, so such a run ends with "Cancel".
+  const double current = std::nearbyint(LenientNumber(WithoutPrefix(NextWeek.Caption())));
   if (target <= current) return refuse("You must select a week greater than your current!");
   // It is the current week that is looked at and not the target, so this never comes up in a
   // season: a target beyond the schedule plays on through the off-season.

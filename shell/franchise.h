@@ -142,8 +142,8 @@ class Franchise : public Screen {
   void GenSchedule();
   // Shows the user's opponent of NextWeek and his ratings.
   void GetNextWeek();
-  // Shows the opponent and loads his roster into tempList if NAME1 or NAME2 is the user's team.
-  // RANK is a league's letter, "F" to "A".
+  // Shows the opponent and loads his roster into tempList if NAME1 or NAME2 is the user's team. An
+  // opponent without a name leaves both empty. RANK is a league's letter, "F" to "A".
   void FindOpponent(const std::string& name1, const std::string& name2, const std::string& rank);
 
   // season/league_lists.cpp

@@ -96,12 +96,12 @@ void ReferenceGame::FindOpponent(const std::string& name1, const std::string& na
   Lines& roster = lists["Franchise.tempList"];
   if (captions["Franchise.TeamName"] == name1) {
     roster.clear();
-    LoadPlayerFile(roster, TeamPath("Rank " + letter, name2));
+    if (!name2.empty()) LoadPlayerFile(roster, TeamPath("Rank " + letter, name2));
     captions["Franchise.OppTeam"] = name2;
   }
   if (captions["Franchise.TeamName"] == name2) {
     roster.clear();
-    LoadPlayerFile(roster, TeamPath("Rank " + letter, name1));
+    if (!name1.empty()) LoadPlayerFile(roster, TeamPath("Rank " + letter, name1));
     captions["Franchise.OppTeam"] = name1;
   }
 }
@@ -189,9 +189,14 @@ void ReferenceGame::PressSim() {
     return;
   }
   const double target = std::floor(std::strtod(answer.c_str(), nullptr));
-  const int current = StrictNumber(marker.substr(5));
+  const std::size_t word = marker.find("Week ");
+  const double current = std::nearbyint(LeadingNumber(word == 0 ? marker.substr(5) : marker));
   if (target <= current) {
     Tell("stop ok: You must select a week greater than your current!");
+    return;
+  }
+  if (current > 11) {
+    Tell("stop ok: You can't simulate beyond the currect schedule!");
     return;
   }
   sim_running = true;

@@ -82,15 +82,32 @@ TEST_F(RatingsTest, YieldsAfterEachPlayer) {
   EXPECT_EQ(desktop().Yields(), 12);
 }
 
-TEST_F(RatingsTest, ARatingInAYieldOfAnotherDisturbsItNot) {
-  desktop().AtYield([this] { Rate({Player("CF", 99), Player("GO", 99)}); });
-  Rate({Player("CF", 80), Player("GO", 70)});
+TEST_F(RatingsTest, TheSumsAreInTheVariablesWhileItWalks) {
+  desktop().AtYield([this] { ExpectRatings(80, 0, 0); });
+  desktop().AtYield([this] { ExpectRatings(80, 70, 0); });
+  desktop().AtYield([this] { ExpectRatings(161, 70, 0); });
+  Rate({Player("CF", 80), Player("GO", 70), Player("LF", 81)});
   ExpectRatings(80, 70, 75);
-  // There is no forward in this list, so that there is nothing to divide by.
+}
+
+TEST_F(RatingsTest, ARatingInAYieldOfAnotherLeavesItsResultInTheSums) {
+  desktop().AtYield([this] { Rate({Player("CF", 99), Player("GO", 98)}); });
+  Rate({Player("CF", 80), Player("GO", 70), Player("LD", 72)});
+  ExpectRatings(99, 120, 110);  // (98 + 70 + 72) / 2, and 109.5 goes to the even one
+  // At the last yield there is nothing left to add, and the other's result is divided once more.
+  desktop().AtYield([] {});
+  desktop().AtYield([this] { Rate({Player("CF", 90), Player("GO", 80)}); });
+  Rate({Player("CF", 50), Player("CF", 50), Player("GO", 70)});
+  ExpectRatings(45, 150, 98);
+}
+
+TEST_F(RatingsTest, AListWithoutForwardsHasNothingToDivideTheSumOfAnotherRatingBy) {
   desktop().AtYield([this] { Rate({Player("CF", 99), Player("GO", 99)}); });
   Rate({Player("GO", 70), Player("LD", 70)});
-  EXPECT_EQ(naming().TeamOffense, 0);
-  EXPECT_EQ(naming().TeamDefense, 140);
+  ExpectRatings(99, 169, 99);
+  desktop().AtYield([this] { Rate({Player("CF", 99), Player("GO", 99)}); });
+  Rate({Player("CF", 70), Player("LF", 70)});
+  ExpectRatings(169, 99, 99);
 }
 
 TEST_F(RatingsTest, ASumBeyondSixteenBitsOverflows) {

@@ -195,14 +195,20 @@ TEST_F(ScheduleTest, TheTableOfTheLeagueChangesNoFixture) {
 }
 
 TEST_F(ScheduleTest, AShortLeagueLeavesTheUserWithoutAnOpponent) {
-  FillList(franchise().RankF, {"F0 Wolves", "F1 Wolves"});
-  ForgetOpponent();
-  franchise().tempList.Clear();
-  struct Left {};
-  // Position 3 is nobody. His file would be the folder itself, which is no file to read.
-  desktop().AtWait([] { throw Left(); });
-  EXPECT_THROW(franchise().GetNextWeek(), Left);
-  EXPECT_EQ(franchise().OppTeam.Caption(), "nobody");
+  // Position 3 is nobody, be he first or second of the pair.
+  for (const Lines& league :
+       {Lines{"F0 Wolves", "F1 Wolves"}, Lines{"", "F1 Wolves", "F2 Wolves", "F0 Wolves"}}) {
+    FillList(franchise().RankF, league);
+    ForgetOpponent();
+    FillList(franchise().tempList, MakeRoster(90));
+    const auto reads = ordvik().counts().file_reads;
+    const int overall = naming().TeamOverall;
+    franchise().GetNextWeek();
+    EXPECT_EQ(Opponent(), (Lines{"", std::to_string(overall), "0", "0"}));
+    EXPECT_EQ(franchise().tempList.ListCount(), 0);
+    EXPECT_EQ(ordvik().counts().file_reads, reads);
+    EXPECT_EQ(desktop().Waits(), 0);
+  }
 }
 
 TEST_F(ScheduleTest, FindOpponentTakesBothSidesInTurn) {

@@ -1,6 +1,5 @@
 #include <functional>
 
-#include "records/runtime_error.h"
 #include "tests/unit/game_fixture.h"
 
 // The press of "Sim" and the run that follows.
@@ -82,10 +81,50 @@ TEST_F(SimRunTest, ACurrentWeekAboveElevenIsRefused) {
   ExpectRefused("12", kNotGreater);
 }
 
-TEST_F(SimRunTest, AMarkerWithoutANumberEndsTheProgram) {
+TEST_F(SimRunTest, AMarkerWithoutANumberCountsAsNothingAndTheRunEndsWithCancel) {
+  for (const char* marker : {"", "Week", "nonsense", "Week x", "week 3", "Week -1e999"}) {
+    franchise().NextWeek.SetCaption(marker);
+    int presses = 0;
+    franchise().OppOverall.SetCaption("not yet");
+    When(
+        [&] {
+          if (franchise().OppOverall.Caption() == "not yet") return false;
+          franchise().OppOverall.SetCaption("not yet");
+          return ++presses == 3;
+        },
+        [this] { Raise(franchise().Command5.OnClick); });
+    Sim("1");
+    EXPECT_EQ(presses, 3) << marker;
+    EXPECT_EQ(franchise().NextWeek.Caption(), marker);
+    EXPECT_FALSE(franchise().SimRunning);
+  }
+  EXPECT_TRUE(desktop().Boxes().empty());
+  EXPECT_EQ(GamesPlayed(), 0);
+  franchise().NextWeek.SetCaption("nonsense");
+  ExpectRefused("0", kNotGreater);
+}
+
+TEST_F(SimRunTest, ALeftOverDraftMarkerIsRunFromWeekOne) {
   franchise().NextWeek.SetCaption("Draft");
-  desktop().QueueAnswer("5");
-  EXPECT_THROW(Raise(franchise().Command2.OnClick), RuntimeError);
+  Sim("2");
+  EXPECT_EQ(franchise().NextWeek.Caption(), "Week 2");
+  EXPECT_EQ(GamesPlayed(), 18);
+}
+
+TEST_F(SimRunTest, ACurrentWeekOfElevenIsNotAboveElevenAndRunsUntilCancel) {
+  franchise().NextWeek.SetCaption("Week 11");
+  franchise().OppOverall.SetCaption("not yet");
+  When([this] { return franchise().OppOverall.Caption() != "not yet"; },
+       [this] {
+         EXPECT_TRUE(franchise().SimRunning);
+         Raise(franchise().Command5.OnClick);
+       });
+  Sim("12");
+  EXPECT_TRUE(desktop().Boxes().empty());
+  EXPECT_EQ(franchise().NextWeek.Caption(), "Week 11");
+  // A number beyond all is above it.
+  franchise().NextWeek.SetCaption("Week 99999");
+  ExpectRefused("100000", "You can't simulate beyond the currect schedule!");
 }
 
 TEST_F(SimRunTest, ARunStopsWithTheTargetAsTheNextWeek) {
