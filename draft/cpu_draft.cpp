@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <array>
+#include <chrono>
 #include <cmath>
 
 #include "records/runtime_error.h"
@@ -6,7 +9,9 @@
 namespace frostmark {
 
 void Ordvik::WaitSeconds(const std::string& seconds) {
-  const std::chrono::duration<double> wanted(LenientNumber(seconds));
+  // Nothing waits longer than a day: by then the clock has been round.
+  constexpr double kDay = 24 * 60 * 60;
+  const std::chrono::duration<double> wanted(std::clamp(LenientNumber(seconds), 0.0, kDay));
   auto length = std::chrono::duration_cast<std::chrono::microseconds>(wanted);
   const auto start = program_.desktop.SinceMidnight();
   std::chrono::microseconds passed{0};

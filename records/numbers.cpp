@@ -1,5 +1,6 @@
 #include "records/numbers.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -37,6 +38,27 @@ std::size_t SkipExponent(std::string_view text, std::size_t at) {
   return end > digits ? end : at;
 }
 
+// The power of ten that an exponent from AT ("e-12") to END means. What would not fit is cut where
+// no text is long enough to make up for it.
+long ExponentOf(std::string_view text, std::size_t at, std::size_t end) {
+  constexpr long kBeyondAll = 1'000'000'000'000;
+  if (at == end) return 0;
+  ++at;
+  const bool negative = text[at] == '-';
+  if (text[at] == '-' || text[at] == '+') ++at;
+  long power = 0;
+  for (; at < end && power < kBeyondAll; ++at) power = power * 10 + (text[at] - '0');
+  return negative ? -power : power;
+}
+
+// The power of ten just above the digits MANTISSA: 2 for "12.5", -1 for "0.012".
+long PowerAbove(std::string_view mantissa) {
+  const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
+  const std::size_t first = std::min(mantissa.find_first_of("123456789"), mantissa.size());
+  if (first < point) return static_cast<long>(point - first);
+  return static_cast<long>(point + 1) - static_cast<long>(first);
+}
+
 std::optional<LeadingNumber> ReadLeadingNumber(std::string_view text) {
   const std::size_t sign = SkipBlanks(text, 0);
   std::size_t start = sign;
@@ -55,7 +77,8 @@ std::optional<LeadingNumber> ReadLeadingNumber(std::string_view text) {
   double value = 0;
   const auto result = std::from_chars(text.data() + start, text.data() + end, value);
   if (result.ec == std::errc::result_out_of_range) {
-    const bool tiny = end > mantissa_end && text[mantissa_end + 1] == '-';
+    const std::string_view mantissa = text.substr(start, mantissa_end - start);
+    const bool tiny = PowerAbove(mantissa) + ExponentOf(text, mantissa_end, end) < 0;
     value = tiny ? 0 : std::numeric_limits<double>::infinity();
   }
   if (text[sign] == '-') value = -value;

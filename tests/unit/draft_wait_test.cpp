@@ -28,6 +28,22 @@ TEST_F(WaitSecondsTest, ItWaitsForAsManySecondsAsTheTextSays) {
   EXPECT_EQ(Waited("1 moment"), milliseconds(1000));
 }
 
+TEST_F(WaitSecondsTest, AWaitBeyondAllBoundsLastsADay) {
+  using std::chrono::hours;
+  for (const char* seconds : {"86400", "86401", "1e300", "1e999"}) {
+    EXPECT_EQ(Waited(seconds), hours(24)) << seconds;
+  }
+  EXPECT_EQ(Waited("-1e300"), hours(0));
+  // So it does by a clock that starts at 0 again.
+  desktop().SetSinceMidnight(hours(20), true);
+  std::int64_t ticks = 0;
+  franchise().Timer1.OnTick = [&] { ++ticks; };
+  franchise().Timer1.Enable();
+  ordvik().WaitSeconds("1e300");
+  EXPECT_EQ(desktop().SinceMidnight(), hours(20));
+  EXPECT_EQ(ticks, 24 * 60 * 60);
+}
+
 TEST_F(WaitSecondsTest, TimersTickWhileItWaits) {
   int ticks = 0;
   franchise().Timer1.OnTick = [&] { ++ticks; };

@@ -60,6 +60,31 @@ TEST(LenientNumberTest, SurvivesNumbersBeyondAllBounds) {
   EXPECT_EQ(LenientNumber(std::string(5000, '9')), std::numeric_limits<double>::infinity());
 }
 
+TEST(LenientNumberTest, WhatIsTooSmallForANumberIsZeroHoweverItIsWritten) {
+  const std::string zeros(400, '0');
+  EXPECT_EQ(LenientNumber("0." + zeros + "1"), 0);
+  EXPECT_EQ(LenientNumber("." + zeros + "1"), 0);
+  EXPECT_EQ(LenientNumber("-0." + zeros + "1"), 0);
+  EXPECT_EQ(LenientNumber(zeros + "." + zeros + "1 and more"), 0);
+  EXPECT_EQ(LenientNumber("123." + zeros + "e-999"), 0);
+  EXPECT_EQ(LenientNumber("0." + zeros + "1e-1"), 0);
+  EXPECT_EQ(LenientNumber("0." + zeros + "1e+20"), 0);
+  EXPECT_EQ(LenientNumber("5e-99999999999999999999"), 0);
+  EXPECT_EQ(LenientNumber("0e99999999999999999999"), 0);
+  EXPECT_FALSE(std::isinf(LenientNumber("0." + zeros + "1e402")));
+  EXPECT_DOUBLE_EQ(LenientNumber("0." + zeros + "1e402"), 10);
+}
+
+TEST(LenientNumberTest, WhatIsTooLargeIsInfiniteHoweverItIsWritten) {
+  const double infinity = std::numeric_limits<double>::infinity();
+  const std::string zeros(400, '0');
+  EXPECT_EQ(LenientNumber("1" + zeros + ".5"), infinity);
+  EXPECT_EQ(LenientNumber("1" + zeros + "e-1"), infinity);
+  EXPECT_EQ(LenientNumber("0." + zeros + "1e999"), infinity);
+  EXPECT_EQ(LenientNumber("-5e99999999999999999999"), -infinity);
+  EXPECT_DOUBLE_EQ(LenientNumber("1" + zeros + "e-399"), 10);
+}
+
 TEST(LenientNumberTest, DoesNotLookAtTheLocale) {
   const std::string before = std::setlocale(LC_ALL, nullptr);
   std::setlocale(LC_ALL, "de_DE.UTF-8");
