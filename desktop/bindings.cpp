@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QValidator>
 #include <algorithm>
 
 #include "desktop/guard.h"
@@ -32,6 +33,22 @@ QString ButtonText(const std::string& caption, const QString& mnemonic) {
   if (letter >= 0) text.insert(letter, '&');
   return text;
 }
+
+// Keeps an edit to the characters that its text box takes: others do not appear, whether they are
+// typed or pasted.
+class CharactersOfTextBox : public QValidator {
+ public:
+  using QValidator::QValidator;
+
+  State validate(QString& input, int& cursor) const override {
+    const auto taken = [](const QString& text) {
+      return QString::fromStdString(TextBox::TakenOf(text.toStdString()));
+    };
+    cursor = static_cast<int>(taken(input.left(cursor)).size());
+    input = taken(input);
+    return Acceptable;
+  }
+};
 
 }  // namespace
 
@@ -108,6 +125,7 @@ void ListBinding::ShowSelected() {
 TextBinding::TextBinding(TextBox& text_box, QLineEdit& edit, BindingContext context)
     : Binding(text_box, edit, context), text_box_(text_box), edit_(edit) {
   if (text_box_.MaxLength() > 0) edit_.setMaxLength(text_box_.MaxLength());
+  edit_.setValidator(new CharactersOfTextBox(&edit_));
   text_box_.OnFocus = [this] { edit_.setFocus(); };
   connect(&edit_, &QLineEdit::textEdited, this, [this](const QString& text) {
     guard().Call([&] { text_box_.Type(text.toStdString()); });

@@ -18,6 +18,15 @@ std::size_t BytesOfCharacters(std::string_view text, int count) {
   return at;
 }
 
+// How many bytes at AT of UTF-8 TEXT are a control character: one below the blank, DEL, or one of
+// those of two bytes (U+0080 to U+009F). 0 if there is none.
+std::size_t ControlCharacterAt(std::string_view text, std::size_t at) {
+  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+  if (byte(at) < 0x20U || byte(at) == 0x7FU) return 1;
+  const bool of_two_bytes = byte(at) == 0xC2U && at + 1 < text.size();
+  return of_two_bytes && byte(at + 1) >= 0x80U && byte(at + 1) < 0xA0U ? 2 : 0;
+}
+
 unsigned char Lower(char c) {
   return static_cast<unsigned char>(c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c);
 }
@@ -55,8 +64,20 @@ void CaptionedControl::SetCaption(std::string_view caption) {
   Changed();
 }
 
+std::string TextBox::TakenOf(std::string_view text) {
+  std::string taken;
+  for (std::size_t at = 0; at < text.size();) {
+    const std::size_t refused = text[at] == '/' ? 1 : ControlCharacterAt(text, at);
+    if (refused == 0) taken += text[at];
+    at += std::max<std::size_t>(refused, 1);
+  }
+  return taken;
+}
+
 void TextBox::Type(std::string_view text) {
-  SetText(max_length_ == 0 ? text : text.substr(0, BytesOfCharacters(text, max_length_)));
+  const std::string taken = TakenOf(text);
+  const std::size_t end = max_length_ == 0 ? taken.size() : BytesOfCharacters(taken, max_length_);
+  SetText(std::string_view(taken).substr(0, end));
 }
 
 void ListBox::Select(int i) {

@@ -60,7 +60,8 @@ class Picture : public Control {
   Handler OnClick;
 };
 
-// A line of text that the user can edit. Its caption is its text.
+// A line of text that the user can edit: a part of a team's name, and so of a file's. Its caption
+// is its text.
 class TextBox : public CaptionedControl {
  public:
   // MAX_LENGTH: the most characters that the user can type; 0 is without limit.
@@ -73,8 +74,11 @@ class TextBox : public CaptionedControl {
   void SetText(std::string_view text) { SetCaption(text); }
   int MaxLength() const { return max_length_; }
 
-  // What a person's typing comes to: TEXT (UTF-8), cut at the limit.
+  // What a person's typing comes to: what the box takes of TEXT (UTF-8), cut at the limit.
   void Type(std::string_view text);
+  // TEXT (UTF-8) without the characters that the box does not take: "/", which no file name holds,
+  // and control characters.
+  static std::string TakenOf(std::string_view text);
 
   // Asks the front end to give the box the input focus.
   void SetFocus() {
