@@ -289,5 +289,31 @@ TEST_F(PromotionTest, ATeamThatIsNowhereLeavesTheBorderClosed) {
   EXPECT_EQ(results().Label7.Caption(), "C5 Wolves");
 }
 
+TEST_F(PromotionTest, ATeamThatGoesUpMeetsTheTeamsOfItsNewLeagueByTheirNames) {
+  EndSeasonOf("F0 Wolves");
+  franchise().LoadNewTeams();
+  // "D5 Wolves" has come down and stands first, the user's team has come up and stands last.
+  EXPECT_EQ(ItemsOf(franchise().RankE),
+            (Lines{"D5 Wolves", "E1 Wolves", "E2 Wolves", "E3 Wolves", "E4 Wolves", "F0 Wolves"}));
+  const char* const opponents[] = {"E4 Wolves", "E2 Wolves", "E1 Wolves", "E3 Wolves", "D5 Wolves"};
+  for (int week = 1; week <= 10; ++week) {
+    franchise().NextWeek.SetCaption("Week " + std::to_string(week));
+    franchise().GetNextWeek();
+    const std::string opponent = opponents[(week - 1) % 5];
+    EXPECT_EQ(franchise().OppTeam.Caption(), opponent) << week;
+    EXPECT_EQ(ItemsOf(franchise().tempList), ReadLines(world.TeamPath("Rank E", opponent)));
+  }
+}
+
+TEST_F(PromotionTest, AUserWhoIsLastOfTheBottomLeagueIsNamedAndStays) {
+  franchise().TeamName.SetCaption("F5 Wolves");
+  franchise().LoadNewTeams();
+  franchise().MyRank.SetCaption("not looked at");
+  franchise().theOffSeason();
+  EXPECT_EQ(results().Label23.Caption(), "F5 Wolves");
+  EXPECT_EQ(franchise().MyRank.Caption(), "not looked at");
+  EXPECT_TRUE(LiesIn("F5 Wolves", "Rank F"));
+}
+
 }  // namespace
 }  // namespace frostmark::testing

@@ -152,6 +152,18 @@ TEST_F(TrainingTest, InWeekTenEverybodyGrowsOlderAfterHisTraining) {
   }
 }
 
+TEST_F(TrainingTest, InWeekTenAGoalieTrainsByHisOldAgeToo) {
+  franchise().NextWeek.SetCaption("Week 10");
+  // Of 24 he still gains up to 4, of 27 up to 2 and of 29 nothing.
+  EXPECT_EQ(Trained(MakeRecord({.name = "Gus", .position = "GO", .age = 24}), {20, 1, 4}),
+            "Gus,GO,82,84,80,80,80,25,N");
+  EXPECT_EQ(AskedFor(), (Asked{100, 2, 4}));
+  EXPECT_EQ(Trained(MakeRecord({.name = "Gus", .position = "GO", .age = 27}), {20, 2, 2}),
+            "Gus,GO,81,80,80,82,80,28,N");
+  EXPECT_EQ(Trained(MakeRecord({.name = "Gus", .position = "GO", .age = 29}), {20, 2}),
+            "Gus,GO,80,80,80,80,80,30,N");
+}
+
 // A roster in file order in which the training line is the better one.
 Lines RosterToSwap() {
   Lines roster = MakeRoster(80);

@@ -384,5 +384,58 @@ TEST_F(GameScreenTest, TheCloseMarkAbandonsTheGameAndKeepsTheFranchiseWaiting) {
   }
 }
 
+TEST_F(GameScreenTest, TheCloseMarkPressedInsideAStepLeavesTheGameAndHarmsNothing) {
+  // Steps of all kinds, each left at each of its yields.
+  for (int roll = 1; roll <= 8; ++roll) {
+    for (int yield = 0; yield < 24; ++yield) {
+      SetUpMatch();
+      dice().ThenSeeded(static_cast<std::uint32_t>(roll));
+      Raise(game().HighButton1.OnClick);
+      desktop().PassTime(std::chrono::milliseconds(100 * roll));
+      bool left = false;
+      const auto leave = [&] {
+        left = true;
+        Raise(game().Label5.OnClick);
+        EXPECT_EQ(game().LineList.ListCount(), 0);
+      };
+      for (int before = 0; before < yield; ++before) desktop().AtYield([] {});
+      desktop().AtYield(leave);
+      desktop().PassTime(std::chrono::milliseconds(100));
+      const int played = game().Period1.Value();
+      desktop().PassTime(std::chrono::seconds(5));
+      if (!left) {  // the step was shorter than that: it happened in the next one
+        ADD_FAILURE() << "no step came to its yield " << yield;
+        continue;
+      }
+      EXPECT_EQ(RunningTimers(), Lines{});
+      EXPECT_LE(game().Period1.Value(), played + 1);
+      EXPECT_FALSE(game().Visible());
+      EXPECT_TRUE(startup().Visible());
+      EXPECT_TRUE(game().HighButton1.Visible());
+      EXPECT_FALSE(game().HighButton2.Visible());
+      EXPECT_EQ(game().GHome.Caption(), "");
+      startup().Hide();
+    }
+  }
+  // What the rest of such a step has left behind is gone with the next set-up.
+  SetUpMatch();
+  EXPECT_EQ(game().Label3.Caption(), "0");
+  EXPECT_EQ(game().Label4.Caption(), "0");
+  EXPECT_EQ(game().Events.ListCount(), 0);
+  EXPECT_EQ(game().Line1Stats.ListCount(), 6);
+}
+
+TEST_F(GameScreenTest, TheCloseMarkPressedInsideAFaceOffLeavesTheCentreThatWasFound) {
+  SetUpMatch();
+  for (int yield = 1; yield < 12; ++yield) desktop().AtYield([] {});
+  desktop().AtYield([this] { Raise(game().Label5.OnClick); });
+  dice().Give({2, 3});
+  Raise(game().HighButton1.OnClick);
+  EXPECT_EQ(game().PuckCarrier, visitor.List(4));
+  EXPECT_EQ(ItemsOf(game().Events), Lines{"Earl Player wins the face off!"});
+  EXPECT_EQ(RunningTimers(), Lines{});
+  EXPECT_FALSE(game().Visible());
+}
+
 }  // namespace
 }  // namespace frostmark::testing

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <filesystem>
+#include <functional>
 
 #include "records/runtime_error.h"
 #include "tests/unit/match_scenes.h"
@@ -295,6 +296,129 @@ TEST_F(PlayGameTest, AMissingTeamFileIsReadWithoutEnd) {
   EXPECT_THROW(franchise().PlayGame("F1 Wolves", "No Such Team", "F"), Left);
   EXPECT_EQ(franchise().Team1.ListCount(), 11);
   EXPECT_EQ(franchise().Alerts.ListCount(), 0);
+}
+
+TEST_F(PlayGameTest, ABadLineInTheStandingsEndsTheProgramBeforeAFileIsWritten) {
+  FillList(franchise().StatRankF, {"F1 Wolves", "(0-0-0) F2 Wolves"});
+  franchise().LooseOrWin.SetCaption("before");
+  const Lines files = world.Everything();
+  const auto writes = ordvik().counts().file_writes;
+  EXPECT_THROW(franchise().PlayGame("F1 Wolves", "F2 Wolves", "F"), RuntimeError);
+  EXPECT_EQ(ordvik().counts().file_writes, writes);
+  EXPECT_TRUE(world.Everything() == files);
+  EXPECT_EQ(franchise().Alerts.ListCount(), 0);
+  EXPECT_EQ(franchise().LooseOrWin.Caption(), "before");
+}
+
+// Looks on when a line comes into a list.
+class OnInsertion : public RecordList::Observer {
+ public:
+  explicit OnInsertion(std::function<void()> look) : look_(std::move(look)) {}
+  void ItemInserted(int /*index*/) override { look_(); }
+  void ItemRemoved(int /*index*/) override {}
+  void ItemChanged(int /*index*/) override {}
+  void Cleared() override {}
+  void SelectionChanged() override {}
+
+ private:
+  std::function<void()> look_;
+};
+
+TEST_F(PlayGameTest, StandingsTrainingResultAndNewsFollowInThisOrder) {
+  franchise().LooseOrWin.SetCaption("before");
+  dice().ThenAlways(100);  // nobody trains
+  desktop().AtWait([this] {
+    game().Label3.SetCaption("3");
+    game().Label4.SetCaption("1");
+    Raise(game().HighButton2.OnClick);
+    franchise().LooseOrWin.SetCaption("before");
+    WriteText(PathOf("F0 Wolves"), "");
+    WriteText(PathOf("F1 Wolves"), "");
+    // The standings' two searches: the winner is found at once, the loser's walk is six.
+    for (int yield = 0; yield < 6; ++yield) {
+      desktop().AtYield([this] { EXPECT_EQ(Standing("F0 Wolves"), "(1-0-0) F0 Wolves"); });
+    }
+    // Then the two trainings: players, the picking of the computer's lines, lines of the file.
+    for (const int yields : {11 + 11, 11 + 10 * 10 + 11}) {
+      for (int yield = 0; yield < yields; ++yield) {
+        desktop().AtYield([=, this] {
+          EXPECT_EQ(Standing("F1 Wolves"), "(0-1-0) F1 Wolves");
+          EXPECT_EQ(ReadLines(PathOf("F0 Wolves")).size(), yields == 22 ? 0U : 11U);
+          EXPECT_EQ(ReadLines(PathOf("F1 Wolves")).size(), 0U);
+          EXPECT_EQ(franchise().LooseOrWin.Caption(), "before");
+          EXPECT_EQ(franchise().Alerts.ListCount(), 0);
+        });
+      }
+    }
+  });
+  int news = 0;
+  OnInsertion watch([&] {
+    ++news;
+    EXPECT_EQ(franchise().LooseOrWin.Caption(), "You won 3 - 1");
+    EXPECT_EQ(franchise().Label19.Caption(), "vs F1 Wolves");
+    EXPECT_EQ(ReadLines(PathOf("F1 Wolves")).size(), 11U);
+  });
+  franchise().Alerts.SetObserver(&watch);
+  franchise().PlayGame("F0 Wolves", "F1 Wolves", "F");
+  franchise().Alerts.SetObserver(nullptr);
+  EXPECT_EQ(news, 1);
+}
+
+TEST_F(PlayGameTest, TheGameIsTheFranchisesBeforeItIsSetUpAndTheOpponentGoesOnlyThen) {
+  franchise().OppTeam.SetCaption("F1 Wolves");
+  constexpr int kYieldsOfLoading = 2 * 11 * 9;
+  for (int yield = 0; yield < kYieldsOfLoading; ++yield) {
+    desktop().AtYield([this] { EXPECT_FALSE(game().FranchiseMatch); });
+  }
+  int looks = 0;
+  for (int yield = 0; yield < 22; ++yield) {  // the set-up of both lines
+    desktop().AtYield([&] {
+      ++looks;
+      EXPECT_TRUE(game().FranchiseMatch);
+      EXPECT_EQ(game().GHome.Caption(), "F0 Wolves");
+      EXPECT_EQ(franchise().OppTeam.Caption(), "F1 Wolves");
+      EXPECT_NE(franchise().OppOverall.Caption(), "");
+      EXPECT_FALSE(game().Visible());
+    });
+  }
+  desktop().AtWait([&] {
+    EXPECT_EQ(looks, 22);
+    EXPECT_EQ(franchise().OppTeam.Caption(), "");
+    Raise(game().HighButton2.OnClick);
+  });
+  franchise().PlayGame("F0 Wolves", "F1 Wolves", "F");
+}
+
+TEST_F(PlayGameTest, AGameThatWasAbandonedForALoadGoesOnWaitingUnderTheLoadedFranchise) {
+  franchise().NextWeek.SetCaption("Week 2");  // plays (0, 1)
+  franchise().SaveGame();
+  WriteText(world.SettingsPath("StatRankF.fmk"), "(4-0-0) F0 Wolves\r\n(0-4-0) F1 Wolves\r\n");
+  franchise().Show();
+  desktop().AtWait([this] {
+    Raise(game().HighButton1.OnClick);
+    desktop().PassTime(std::chrono::seconds(5));
+    Raise(game().Label5.OnClick);
+    Raise(startup().HighButton2.OnClick);
+    Raise(startup().HighButton5.OnClick);
+    EXPECT_TRUE(franchise().Visible());
+    EXPECT_FALSE(startup().Visible());
+    EXPECT_TRUE(game().FranchiseMatch);
+    EXPECT_EQ(franchise().MainList.ListCount(), 12);  // a second load adds to the rosters
+    EXPECT_EQ(Standing("F0 Wolves"), "(4-0-0) F0 Wolves");
+  });
+  desktop().AtWait([this] {
+    EXPECT_TRUE(game().FranchiseMatch);
+    EXPECT_EQ(franchise().Alerts.ListCount(), 0);
+    game().FranchiseMatch = false;  // as the next single game has it
+  });
+  franchise().Score1 = 2;
+  franchise().Score2 = 0;
+  franchise().PlayGame("F0 Wolves", "F1 Wolves", "F");
+  EXPECT_EQ(desktop().Waits(), 2);
+  // The game counts, in the standings that were loaded meanwhile.
+  EXPECT_EQ(Standing("F0 Wolves"), "(5-0-0) F0 Wolves");
+  EXPECT_EQ(Standing("F1 Wolves"), "(0-5-0) F1 Wolves");
+  EXPECT_EQ(franchise().Alerts.List(0), "F0 Wolves beat F1 Wolves 2 to 0");
 }
 
 }  // namespace

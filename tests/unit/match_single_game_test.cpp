@@ -136,5 +136,26 @@ TEST_F(SingleGameTest, TheCloseMarkGoesBackToTheStartScreen) {
   EXPECT_TRUE(startup().Visible());
 }
 
+TEST_F(SingleGameTest, TheGameIsNotTheFranchisesBeforeItIsSetUp) {
+  screen().List3.Select(0);
+  screen().File1.Select(0);
+  screen().List4.Select(1);
+  screen().File2.Select(1);
+  game().FranchiseMatch = true;
+  int looks = 0;
+  for (int yield = 0; yield < 22; ++yield) {
+    desktop().AtYield([&] {
+      ++looks;
+      EXPECT_FALSE(game().FranchiseMatch);
+      EXPECT_EQ(game().GHome.Caption(), "F0 Wolves");
+      EXPECT_EQ(game().GVisitor.Caption(), "E1 Wolves");
+      EXPECT_FALSE(game().Visible());
+      EXPECT_TRUE(screen().Visible());
+    });
+  }
+  Raise(screen().HighButton1.OnClick);
+  EXPECT_EQ(looks, 22);
+}
+
 }  // namespace
 }  // namespace frostmark::testing

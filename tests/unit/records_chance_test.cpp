@@ -28,6 +28,19 @@ TEST(ClockDiceTest, RollsWithinOneTickOfTheClockDiffer) {
   EXPECT_GT(seen.size(), 90U);
 }
 
+TEST(ClockDiceTest, TwoFreshOnesDiffer) {
+  // So does each start of the program.
+  const auto first_rolls = [] {
+    ClockDice dice;
+    std::array<int, 4> rolls{};
+    for (int& roll : rolls) roll = dice.Roll(32767);
+    return rolls;
+  };
+  std::set<std::array<int, 4>> seen;
+  for (int i = 0; i < 50; ++i) seen.insert(first_rolls());
+  EXPECT_EQ(seen.size(), 50U);
+}
+
 TEST(ClockDiceTest, TakesTheEndsOfItsRange) {
   ClockDice dice;
   for (int i = 0; i < 100; ++i) {

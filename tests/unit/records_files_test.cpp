@@ -229,5 +229,14 @@ TEST_F(FilesTest, PathsAreBuiltFromTheProgramsFolder) {
   EXPECT_EQ(ordvik().TeamPath("Rank A", "Ice Cats"), world.path() + "/Teams/Rank A/Ice Cats");
 }
 
+TEST_F(FilesTest, OnlyBlanksAreSkippedAtTheStartOfAnItem) {
+  EXPECT_EQ(LoadAlerts("  one,\ttwo, \tthree,\x0b"
+                       "four\r\n"),
+            (Lines{"one", "\ttwo", "\tthree",
+                   "\x0b"
+                   "four"}));
+  EXPECT_EQ(LoadAlerts("\t\"quoted, no\"\r\n"), (Lines{"\t\"quoted", "no\""}));
+}
+
 }  // namespace
 }  // namespace frostmark::testing

@@ -141,6 +141,14 @@ TEST_F(LoadTest, RecordsOnNeitherLineAreLeftOut) {
   Load();
   EXPECT_EQ(franchise().MainList.ListCount(), 5);
   EXPECT_EQ(franchise().TrainList.ListCount(), 5);
+  const std::string name = HockeyNaming::GetField(roster[3], "Name");
+  for (const ListBox* list : {&franchise().MainList, &franchise().MainRoster,
+                              &franchise().TrainList, &franchise().TrainingRoster}) {
+    for (const std::string& item : ItemsOf(*list)) {
+      EXPECT_EQ(item.find(name), std::string::npos) << list->Name();
+    }
+  }
+  EXPECT_EQ(ReadLines(world.TeamPath("Rank F", "F2 Wolves")), roster);
 }
 
 TEST_F(LoadTest, TheLeagueIsWhereTheTeamFileLies) {

@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
+#include <functional>
+#include <utility>
 
 #include "tests/unit/game_fixture.h"
 
@@ -186,6 +189,15 @@ class BeginTest : public NewFranchiseTest {
     Generate();
   }
   Lines Team() { return ItemsOf(creator().List1); }
+  // Whom the user's team meets in the first week, by its place in the league.
+  std::string Opponent() {
+    constexpr std::array<int, 6> kPartners = {3, 2, 1, 0, 5, 4};
+    for (int place = 0; place < 6; ++place) {
+      if (franchise().RankF.List(place) != franchise().TeamName.Caption()) continue;
+      return franchise().RankF.List(kPartners[static_cast<std::size_t>(place)]);
+    }
+    return "not in the league";
+  }
 };
 
 TEST_F(BeginTest, WritesTheTeamFillsTheScreenAndSaves) {
@@ -298,6 +310,135 @@ TEST_F(BeginWithoutBuildTest, RightAfterABuildTheTeamIsTheOneThatTheBuildRolledL
   ASSERT_EQ(last.size(), 11U);
   Begin();
   EXPECT_EQ(ReadLines(world.TeamPath("Rank F", "Montreal Breeze")), last);
+}
+
+// Names of a team as no folder could hold them.
+TEST_F(PanelTest, NamesTakeNoCharacterThatNoFileNameHolds) {
+  for (TextBox* box : {&startup().Text1, &startup().Text2, &creator().Text1, &creator().Text2}) {
+    box->Type("A/C/");
+    EXPECT_EQ(box->Text(), "AC") << box->FullName();
+    box->Type(
+        std::string("a\0b\nc\rd\te\x7f"
+                    "f\x1b[2Jg",
+                    16));
+    EXPECT_EQ(box->Text(), "abcdef[2Jg") << box->FullName();
+    box->Type("x\u0085y\u009fz");  // controls of two bytes
+    EXPECT_EQ(box->Text(), "xyz") << box->FullName();
+    box->Type("M\u00FC \"n.\\'");  // all this is good for a name
+    EXPECT_EQ(box->Text(), "M\u00FC \"n.\\'") << box->FullName();
+    box->Type("////");
+    EXPECT_EQ(box->Text(), "") << box->FullName();
+  }
+  // What is not taken does not count against the limit.
+  startup().Text1.Type("AB/CDEF/GHIJKL");
+  EXPECT_EQ(startup().Text1.Text(), "ABCDEFGHIJKL");
+}
+
+// The blank between the two boxes keeps every name from being that of a folder.
+TEST_F(BeginTest, NoTwoNamesMakeAFileOutsideItsLeague) {
+  const std::size_t settings = world.SettingsNames().size();
+  for (const auto& [city, nickname] : {std::pair{"", ""},
+                                       {".", ""},
+                                       {"", "."},
+                                       {"..", ""},
+                                       {"", ".."},
+                                       {".", "."},
+                                       {"../Rank E", "x"},
+                                       {"../..", "/etc"}}) {
+    for (const std::string& name : world.FileNames("Rank F")) {
+      Ordvik::DeleteFile(world.TeamPath("Rank F", name));
+    }
+    startup().Text1.Type(city);
+    startup().Text2.Type(nickname);
+    const std::string name = startup().Text1.Text() + " " + startup().Text2.Text();
+    const Lines others = world.FileNames("Rank E");
+    Begin();
+    EXPECT_EQ(world.FileNames("Rank F"), Lines{name});
+    EXPECT_EQ(world.FileNames("Rank E"), others);
+    EXPECT_EQ(franchise().RankF.List(0), name);
+    EXPECT_GE(world.SettingsNames().size(), settings);
+  }
+}
+
+// Watches when the franchise comes up.
+class OnShown : public Screen::Observer {
+ public:
+  explicit OnShown(std::function<void()> look) : look_(std::move(look)) {}
+  void ScreenChanged(Screen& screen) override {
+    if (screen.Visible()) look_();
+  }
+  void DragRequested(Screen& /*screen*/) override {}
+
+ private:
+  std::function<void()> look_;
+};
+
+TEST_F(BeginTest, FirstTheFileThenTheScreensAndTheSaveAtTheEnd) {
+  int shown = 0;
+  OnShown watch([&] {
+    ++shown;
+    EXPECT_EQ(ReadLines(world.TeamPath("Rank F", "Montreal Breeze")), Team());
+    EXPECT_FALSE(startup().Visible());
+    EXPECT_EQ(franchise().MainList.ListCount(), 0);
+    EXPECT_TRUE(startup().Frame1.Visible());
+    EXPECT_EQ(ordvik().ReadSetting("Team"), "");
+  });
+  franchise().SetObserver(&watch);
+  for (int line = 0; line < 11; ++line) {
+    desktop().AtYield([this] {
+      EXPECT_TRUE(startup().Visible());
+      EXPECT_FALSE(franchise().Visible());
+    });
+  }
+  Begin();
+  franchise().SetObserver(nullptr);
+  EXPECT_EQ(shown, 1);
+  EXPECT_EQ(desktop().Boxes().back().text, "File saved!");
+  EXPECT_EQ(ordvik().ReadSetting("Team"), "Montreal Breeze");
+}
+
+TEST_F(BeginTest, TheNextOpponentIsFoundOnceMoreBeforeTheSave) {
+  // In the schedule the league is written over; when it reads "Rank F" again, the schedule is over.
+  bool in_schedule = false;
+  bool again = false;
+  std::function<void()> look = [&] {
+    if (!in_schedule && franchise().RankA.ListCount() == 6 &&
+        franchise().tempList.ListCount() == 11) {
+      in_schedule = true;
+      franchise().MyRank.SetCaption("not yet");
+    } else if (in_schedule && !again && franchise().MyRank.Caption() == "Rank F") {
+      again = true;
+      franchise().OppTeam.SetCaption("not yet");
+      EXPECT_TRUE(startup().Frame1.Visible());
+    }
+    if (!again) desktop().AtYield(look);
+  };
+  desktop().AtYield(look);
+  Begin();
+  ASSERT_TRUE(in_schedule);
+  ASSERT_TRUE(again);
+  EXPECT_EQ(franchise().OppTeam.Caption(), Opponent());
+}
+
+TEST_F(BeginTest, ATakenNameEndsInASaveWhateverPlaceTheTeamHas) {
+  for (std::size_t place = 0; place < 5; ++place) {
+    Restart();
+    NewFranchiseTest::SetUp();
+    desktop().QueueAnswer("yes");  // from the second time on a game is there
+    New();
+    desktop().ForgetAnswers();
+    Generate();
+    const std::string other = world.FileNames("Rank F")[place];
+    const std::size_t blank = other.find(' ');
+    startup().Text1.SetText(other.substr(0, blank));
+    startup().Text2.SetText(other.substr(blank + 1));
+    Begin();
+    EXPECT_EQ(franchise().RankF.ListCount(), 5);
+    EXPECT_EQ(desktop().Waits(), 0);
+    EXPECT_EQ(desktop().Boxes().back().text, "File saved!");
+    EXPECT_EQ(ordvik().ReadSetting("Team"), other);
+    EXPECT_EQ(franchise().OppTeam.Caption(), Opponent());
+  }
 }
 
 }  // namespace

@@ -173,5 +173,28 @@ TEST_F(RosterTest, MinMinimizes) {
   EXPECT_TRUE(franchise().Visible());
 }
 
+TEST_F(RosterTest, APlayerOnNeitherLineIsOnNoListAndIsGoneWithTheNextMove) {
+  for (const char* training : {"", "n", "y", "X", "NY", " N"}) {
+    Lines roster = roster_;
+    roster[8] = MakeRecord({.name = "Odd Player", .position = "RF", .training = training});
+    world.WriteTeam("Rank F", "F2 Wolves", roster);
+    franchise().ClearRoster();
+    for (const std::string& record : roster) franchise().AddToRoster(record);
+    EXPECT_EQ(franchise().MainList.ListCount(), 6) << training;
+    EXPECT_EQ(franchise().TrainList.ListCount(), 4) << training;
+    for (const ListBox* list : {&franchise().MainList, &franchise().MainRoster,
+                                &franchise().TrainList, &franchise().TrainingRoster}) {
+      for (const std::string& item : ItemsOf(*list)) {
+        EXPECT_EQ(item.find("Odd Player"), std::string::npos) << list->Name();
+      }
+    }
+    EXPECT_NE(ReadText(TeamFile()).find("Odd Player"), std::string::npos);
+    // The whole roster is the two lists: what stands on neither is not written.
+    ToTraining(0);
+    EXPECT_EQ(ReadLines(TeamFile()).size(), 10U);
+    EXPECT_EQ(ReadText(TeamFile()).find("Odd Player"), std::string::npos);
+  }
+}
+
 }  // namespace
 }  // namespace frostmark::testing

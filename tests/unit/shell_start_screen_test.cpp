@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "tests/unit/game_fixture.h"
 
 namespace frostmark::testing {
@@ -84,6 +86,56 @@ TEST_F(StartScreenTest, ExitWithAFranchiseBehindItSavesNothing) {
   EXPECT_THROW(startup().HighButton3.OnClick(), ProgramEnded);
   EXPECT_EQ(world.Everything(), before);
   EXPECT_TRUE(desktop().Boxes().empty());
+}
+
+// Which screens come and go, in order.
+class ComingsAndGoings : public Screen::Observer {
+ public:
+  explicit ComingsAndGoings(const ScreenList& screens) {
+    for (Screen* screen : screens.All()) screen->SetObserver(this);
+  }
+  void ScreenChanged(Screen& screen) override {
+    events.push_back((screen.Visible() ? "show " : "hide ") + screen.Name());
+  }
+  void DragRequested(Screen& /*screen*/) override {}
+  Lines Taken() { return std::exchange(events, {}); }
+  Lines events;
+};
+
+TEST_F(StartScreenTest, OneScreenComesAndTheOtherGoesInTheOrderOfEachWay) {
+  world.FillWorld();
+  TakeOver("Rank F", "F2 Wolves");
+  franchise().SaveGame();
+  Restart();
+  program().Start();
+  ComingsAndGoings watch(program().screens);
+  const auto press = [&](Button& button) {
+    button.OnClick();
+    return watch.Taken();
+  };
+  EXPECT_EQ(press(startup().HighButton1), (Lines{"show FStartGame", "hide Startup"}));
+  program().f_start_game.Label2.OnClick();
+  EXPECT_EQ(watch.Taken(), (Lines{"hide FStartGame", "show Startup"}));
+  EXPECT_EQ(press(startup().HighButton5), (Lines{"hide Startup", "show Franchise"}));
+  EXPECT_EQ(press(franchise().HighButton2), (Lines{"hide Franchise", "show Startup"}));
+  EXPECT_EQ(press(startup().HighButton6), (Lines{"hide Startup", "show Franchise"}));
+
+  Game& game = program().game;
+  franchise().Hide();
+  for (const bool of_franchise : {false, true}) {
+    startup().Hide();
+    franchise().Hide();
+    game.Show();
+    game.FranchiseMatch = of_franchise;
+    watch.Taken();
+    EXPECT_EQ(press(game.HighButton2),
+              (Lines{of_franchise ? "show Franchise" : "show Startup", "hide Game"}));
+  }
+  game.Show();
+  watch.Taken();
+  game.Label5.OnClick();
+  EXPECT_EQ(watch.Taken(), (Lines{"show Startup", "hide Game"}));
+  for (Screen* screen : program().screens.All()) screen->SetObserver(nullptr);
 }
 
 TEST_F(StartScreenTest, TheAddressOpensTheWebPage) {

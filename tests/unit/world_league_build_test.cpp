@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
 #include <set>
 
@@ -189,6 +190,49 @@ TEST_F(LeagueBuildTest, RollsCityAndNicknameAfterEachTeamFromWhatIsLeft) {
   std::vector<int> expected;
   for (int left = 35; left > 0; --left) expected.insert(expected.end(), {left, left});
   EXPECT_EQ(of_names, expected);
+}
+
+TEST_F(LeagueBuildTest, YieldsTwentyThreeTimesATryAndTwelveTimesATeam) {
+  Build();
+  // Every try asks for the names and ratings of eleven players.
+  const std::vector<int> asked = dice().Asked();
+  const auto tries = std::count(asked.begin(), asked.end(), 1218) / 11;
+  ASSERT_GT(tries, 35);
+  // Eleven players, eleven of them rated, one look at the strength; eleven lines, one team.
+  EXPECT_EQ(desktop().Yields(), tries * 23 + 35 * 12);
+}
+
+TEST_F(LeagueBuildTest, TheStrengthIsReadFromItsLabelAfterTheYieldOfTheTry) {
+  // Two teams that suit "Rank F": the label of the first is written over at the try's last yield.
+  for (int player = 0; player < 22; ++player) dice().Give({2, 2, 30, 30, 30, 30, 7});
+  dice().Give({6, 35});
+  for (int yield = 1; yield < 23; ++yield) desktop().AtYield([] {});
+  desktop().AtYield([this] {
+    EXPECT_EQ(program().team_creator.Label7.Caption(), "70");
+    EXPECT_EQ(naming().TeamOverall, 70);
+    program().team_creator.Label7.SetCaption("81");
+  });
+  Build();
+  EXPECT_EQ(dice().Rolls()[154], (RollPair{35, 6}));
+  EXPECT_EQ(ReadLines(world.TeamPath("Rank F", "Denver Freeze"))[0],
+            "Robert Williams,GO,70,70,70,70,70,18,N");
+}
+
+TEST_F(LeagueBuildTest, TheListsOfNamesAreAddedToWhatIsInThem) {
+  startup().List3.AddItem("Oslo");
+  startup().List4.AddItem("Vikings");
+  desktop().AtYield([this] {
+    EXPECT_EQ(startup().List3.ListCount(), 36);
+    EXPECT_EQ(startup().List3.List(0), "Oslo");
+    EXPECT_EQ(startup().List3.List(1), "Binghamton");
+    EXPECT_EQ(startup().List4.ListCount(), 36);
+    EXPECT_EQ(startup().List4.List(0), "Vikings");
+  });
+  Build();
+  EXPECT_EQ(startup().List3.ListCount(), 1);
+  EXPECT_EQ(startup().List4.ListCount(), 1);
+  const std::vector<int> asked = dice().Asked();
+  EXPECT_EQ(std::count(asked.begin(), asked.end(), 36), 2);
 }
 
 }  // namespace
