@@ -62,27 +62,6 @@ TEST_F(Bindings, TypingStopsAtTheLimitAndReachesTheControl) {
   EXPECT_EQ(city.text(), "Oslo");
 }
 
-TEST_F(Bindings, CharactersThatNoFileNameHoldsDoNotAppear) {
-  Startup& startup = program().startup;
-  startup.Frame1.Show();
-  Open(startup);
-  auto& city = game_.On<QLineEdit>(startup, "Text1");
-  city.selectAll();
-  QTest::keyClicks(&city, "/New/ York/");
-  EXPECT_EQ(city.text(), "New York");
-  EXPECT_EQ(startup.Text1.Text(), "New York");
-  // In the middle too, and the cursor stays where the typing goes on.
-  city.setCursorPosition(3);
-  QTest::keyClicks(&city, "/er/");
-  EXPECT_EQ(city.text(), "Newer York");
-  EXPECT_EQ(city.cursorPosition(), 5);
-  city.selectAll();
-  city.insert(
-      "a/b\x1b"
-      "c/");  // as from the clipboard
-  EXPECT_EQ(city.text(), "abc");
-}
-
 TEST_F(Bindings, AComboShowsATextThatIsNoneOfItsItems) {
   TeamCreator& creator = program().team_creator;
   Open(creator);
