@@ -4,7 +4,6 @@
 #include <QDesktopServices>
 #include <QInputDialog>
 #include <QMessageBox>
-#include <QScreen>
 #include <QTime>
 #include <QTimer>
 #include <QUrl>
@@ -173,16 +172,18 @@ void QtDesktop::ScreenChanged(Screen& screen) {
   auto window = windows_.find(&screen);
   if (window == windows_.end()) {
     if (!screen.Visible()) return;
-    auto made = std::make_unique<ScreenWindow>(screen, guard_, [this] { EndProgram(); });
+    auto made = std::make_unique<ScreenWindow>(screen, guard_, stage_, [this] { EndProgram(); });
     window = windows_.emplace(&screen, std::move(made)).first;
   }
-  window->second->Follow(Centre());
-  if (screen.Visible()) last_shown_ = window->second.get();
+  window->second->Follow(screen.IsPopup() ? OpenerOf(screen) : nullptr);
 }
 
-QPoint QtDesktop::Centre() const {
-  if (last_shown_ != nullptr) return last_shown_->geometry().center();
-  return QApplication::primaryScreen()->availableGeometry().center();
+QWidget* QtDesktop::OpenerOf(const Screen& popup) const {
+  const std::vector<Screen*> visible = screens_->VisibleOnes();
+  for (auto screen = visible.rbegin(); screen != visible.rend(); ++screen) {
+    if (*screen != &popup && !(*screen)->IsPopup()) return Window(**screen);
+  }
+  return nullptr;
 }
 
 void QtDesktop::DragRequested(Screen& screen) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QPoint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -8,6 +7,7 @@
 #include <vector>
 
 #include "desktop/guard.h"
+#include "desktop/stage.h"
 #include "ui/desktop.h"
 
 class QWidget;
@@ -56,14 +56,14 @@ class QtDesktop : public Desktop, public Screen::Observer {
   void LetEventsRun();
   void StopIfEnded() const;
   QWidget* FrontWindow() const;
-  QPoint Centre() const;
+  QWidget* OpenerOf(const Screen& popup) const;
 
   std::function<void(int code)> leave_;
   Guard guard_;
   ScreenList* screens_ = nullptr;
   std::vector<std::unique_ptr<Ticker>> tickers_;
   std::unordered_map<const Screen*, std::unique_ptr<ScreenWindow>> windows_;
-  const ScreenWindow* last_shown_ = nullptr;
+  Stage stage_;
   int yields_left_ = 0;  // until the clock is read again
   std::chrono::steady_clock::time_point next_events_;
 };

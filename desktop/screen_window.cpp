@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QScreen>
+#include <QShortcut>
 #include <QVBoxLayout>
 #include <QWindow>
 #include <algorithm>
@@ -18,6 +19,9 @@
 #include "desktop/guard.h"
 #include "desktop/palette.h"
 #include "desktop/screen_form.h"
+#include "desktop/stage.h"
+#include "desktop/widgets/leave_mark.h"
+#include "desktop/widgets/pin.h"
 #include "ui/screen.h"
 
 namespace frostmark {
@@ -25,6 +29,7 @@ namespace {
 
 constexpr int kShadow = 18;  // how far the shadow reaches
 constexpr int kCorner = 14;  // as in the style sheet
+constexpr int kInset = 12;   // of the mark in the corner
 
 // Draws the shadow of CARD, denser below it, as rings of nearly transparent night.
 void PaintShadow(QPainter& painter, const QRect& card) {
@@ -40,34 +45,27 @@ void PaintShadow(QPainter& painter, const QRect& card) {
   }
 }
 
-// WINDOW moved so that it lies on the desktop: where it does not fit, its top left corner does.
-QRect OnDesktop(QRect window) {
-  const QScreen* monitor = QGuiApplication::screenAt(window.center());
-  if (monitor == nullptr) monitor = QGuiApplication::primaryScreen();
-  const QRect room = monitor->availableGeometry();
-  window.moveRight(std::min(window.right(), room.right()));
-  window.moveBottom(std::min(window.bottom(), room.bottom()));
-  window.moveLeft(std::max(window.left(), room.left()));
-  window.moveTop(std::max(window.top(), room.top()));
-  return window;
-}
-
 }  // namespace
 
-ScreenWindow::ScreenWindow(Screen& screen, Guard& guard, std::function<void()> close_program)
+ScreenWindow::ScreenWindow(Screen& screen, Guard& guard, Stage& stage,
+                           std::function<void()> close_program)
     : screen_(screen),
       guard_(guard),
+      stage_(stage),
       close_program_(std::move(close_program)),
       form_(new ScreenForm(this)) {
   setObjectName("look_window");
   setWindowTitle(QString::fromStdString(screen_.Caption()));
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
+  // Window managers keep only dialogs above what opened them.
+  if (screen_.IsPopup()) setWindowFlag(Qt::Dialog);
   if (screen_.border() == Screen::Border::kNone) MakeFrameless();
   layout->addWidget(form_);
   SetUpForm(screen_, *form_);
   binder_ = std::make_unique<Binder>(screen_, *form_, guard_);
   DecorateScreen(screen_, *form_);
+  OfferWayOut();
 }
 
 ScreenWindow::~ScreenWindow() = default;
@@ -81,7 +79,20 @@ void ScreenWindow::MakeFrameless() {
   layout()->setContentsMargins(kShadow, kShadow, kShadow, kShadow);
 }
 
-void ScreenWindow::Follow(QPoint centre) {
+void ScreenWindow::OfferWayOut() {
+  auto* keys = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q), this);
+  connect(keys, &QShortcut::activated, this, &ScreenWindow::LeaveProgram);
+  if (screen_.border() != Screen::Border::kNone || screen_.IsPopup()) return;
+  auto* mark = new LeaveMark(form_);
+  connect(mark, &QAbstractButton::clicked, this, &ScreenWindow::LeaveProgram);
+  new Pin(*mark, Qt::AlignTop | Qt::AlignRight, {0, kInset, kInset, 0});
+}
+
+void ScreenWindow::LeaveProgram() {
+  guard_.Call([this] { close_program_(); });
+}
+
+void ScreenWindow::Follow(QWidget* opener) {
   if (!screen_.Visible()) {
     hide();
     return;
@@ -90,13 +101,7 @@ void ScreenWindow::Follow(QPoint centre) {
     showMinimized();
     return;
   }
-  if (!isVisible()) {
-    if (focusWidget() == nullptr) FocusFirst();
-    adjustSize();
-    QRect at(QPoint(), size());
-    at.moveCenter(centre);
-    move(OnDesktop(at).topLeft());
-  }
+  if (!isVisible()) Appear(opener);
   if (isMinimized()) {
     showNormal();
   } else {
@@ -104,6 +109,54 @@ void ScreenWindow::Follow(QPoint centre) {
   }
   raise();
   activateWindow();
+}
+
+void ScreenWindow::Appear(QWidget* opener) {
+  // An X window that has once been minimized asks to begin like that whenever it is mapped again,
+  // and nothing but a new one takes that back.
+  if (has_been_minimized_) destroy();
+  has_been_minimized_ = false;
+  painted_ = false;
+  moved_by_user_ = false;
+  opener_ = opener;
+  FocusPrimary();
+  FitShadow();
+  const QSize wanted = screen_.IsPopup() ? form_->sizeHint() : Stage::Size();
+  const QMargins shadow = layout()->contentsMargins();
+  resize(wanted.expandedTo(form_->minimumSizeHint()).grownBy(shadow));
+  Place();
+  if (opener == nullptr) return;
+  winId();  // makes the window, which is what can have an opener
+  windowHandle()->setTransientParent(opener->windowHandle());
+}
+
+void ScreenWindow::Place() {
+  const QRect place = screen_.IsPopup() && opener_ != nullptr
+                          ? stage_.ForPopup(size(), opener_->geometry())
+                          : stage_.ForScreen(size());
+  placed_at_ = place.topLeft();
+  move(placed_at_);
+}
+
+void ScreenWindow::FitShadow() {
+  if (!has_shadow_) return;
+  // Where the screen is small the shadow goes first.
+  const QSize room = QGuiApplication::primaryScreen()->availableSize();
+  const QSize rest = screen_.IsPopup() ? room : room - Stage::Size();
+  const int across = std::clamp(rest.width() / 2, 0, kShadow);
+  const int down = std::clamp(rest.height() / 2, 0, kShadow);
+  layout()->setContentsMargins(across, down, across, down);
+}
+
+void ScreenWindow::FocusPrimary() {
+  // The form names what the screen is about, the most wanted first.
+  for (const QString& name : form_->property("primary").toString().split(' ')) {
+    auto* widget = form_->findChild<QWidget*>(name);
+    if (widget == nullptr || !widget->isVisibleTo(form_) || !widget->isEnabled()) continue;
+    widget->setFocus(Qt::OtherFocusReason);
+    return;
+  }
+  if (focusWidget() == nullptr) FocusFirst();
 }
 
 void ScreenWindow::FocusFirst() {
@@ -121,6 +174,7 @@ void ScreenWindow::FocusFirst() {
 
 void ScreenWindow::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange && isMinimized()) has_been_minimized_ = true;
   if (event->type() != QEvent::WindowStateChange || isMinimized() == screen_.Minimized()) return;
   guard_.Call([this] {
     if (isMinimized()) {
@@ -143,6 +197,7 @@ void ScreenWindow::closeEvent(QCloseEvent* event) {
         screen_.Hide();
         break;
       case Screen::OnClose::kNothing:
+      case Screen::OnClose::kTurnsYear:
         break;
     }
   });
@@ -208,7 +263,17 @@ bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
   return QWidget::eventFilter(watched, event);
 }
 
+void ScreenWindow::moveEvent(QMoveEvent* event) {
+  QWidget::moveEvent(event);
+  if (screen_.IsPopup() || !painted_ || !isVisible() || isMinimized()) return;
+  // The window system may round a place.
+  constexpr int kRounding = 2;
+  if ((pos() - placed_at_).manhattanLength() > kRounding) moved_by_user_ = true;
+  if (moved_by_user_) stage_.MoveTo(geometry());
+}
+
 void ScreenWindow::paintEvent(QPaintEvent* event) {
+  painted_ = true;
   if (!has_shadow_ || form_->geometry().contains(event->rect())) return;
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
@@ -217,6 +282,8 @@ void ScreenWindow::paintEvent(QPaintEvent* event) {
 
 void ScreenWindow::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
+  // What a screen shows may change its size between its showing and its being seen.
+  if (isVisible() && !painted_) Place();
   if (has_shadow_ || screen_.border() != Screen::Border::kNone) return;
   // Without a compositor nothing can be half transparent: the corners are cut instead.
   QPainterPath outline;

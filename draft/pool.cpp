@@ -3,11 +3,11 @@
 namespace frostmark {
 
 FResults::FResults(Program& program)
-    : Screen(program.screens, "FResults", "Results", Border::kNone, OnClose::kEndsProgram),
+    : Screen(program.screens, "FResults", "Results", Border::kNone, OnClose::kTurnsYear),
       program_(program) {}
 
 FDraft::FDraft(Program& program)
-    : Screen(program.screens, "FDraft", "Draft", Border::kNone, OnClose::kEndsProgram),
+    : Screen(program.screens, "FDraft", "Draft", Border::kNone, OnClose::kTurnsYear),
       program_(program) {}
 
 void FResults::ConnectDraftButton() {

@@ -44,8 +44,11 @@ class Screen {
   // What closing its window through the window manager does.
   enum class OnClose {
     kEndsProgram,
-    kHides,  // a popup
-    kNothing,
+    kHides,    // a popup
+    kNothing,  // a popup that must be answered
+    // A main screen in the middle of the turn of the year: nothing, since what has happened is
+    // saved only with the new season. Leaving the program on purpose still works.
+    kTurnsYear,
   };
 
   // A screen without a frame has no title bar; its caption then only names it.
@@ -61,6 +64,8 @@ class Screen {
   const std::string& Caption() const { return caption_; }
   Border border() const { return border_; }
   OnClose on_close() const { return on_close_; }
+  // Whether it lies beside a main screen, and is not one of those that take turns.
+  bool IsPopup() const { return on_close_ == OnClose::kHides || on_close_ == OnClose::kNothing; }
 
   // The screens of its program, this one among them.
   const ScreenList& Screens() const { return screens_; }

@@ -29,7 +29,7 @@ void DecorateFStartGame(FStartGame& screen, ScreenForm& form) {
   GiveRoom(Part<ListView>(form, "List4"), 13, 7);
   ShowTeams(Part<ListView>(form, "File1"), palette::kBlue);
   ShowTeams(Part<ListView>(form, "File2"), palette::kRed);
-  new Pin(Part<QWidget>(form, "Label2"), Qt::AlignTop | Qt::AlignRight, {0, 12, 12, 0});
+  new Pin(Part<QWidget>(form, "Label2"), Qt::AlignTop | Qt::AlignRight, {0, 12, 48, 0});
 
   auto& versus = Part<VersusView>(form, "look_versus");
   const auto follow = [&screen, &versus] {

@@ -173,6 +173,12 @@ TEST_F(ScreensTest, ClosingAMainWindowEndsTheProgramAndClosingAToolHidesIt) {
   EXPECT_EQ(startup().on_close(), Screen::OnClose::kEndsProgram);
   EXPECT_EQ(franchise().on_close(), Screen::OnClose::kEndsProgram);
   EXPECT_EQ(program().team_creator.on_close(), Screen::OnClose::kHides);
+  EXPECT_TRUE(program().team_creator.IsPopup());
+  EXPECT_FALSE(franchise().IsPopup());
+  // What the turn of the year brings is saved only with the new season.
+  EXPECT_EQ(program().f_results.on_close(), Screen::OnClose::kTurnsYear);
+  EXPECT_EQ(program().f_draft.on_close(), Screen::OnClose::kTurnsYear);
+  EXPECT_FALSE(program().f_draft.IsPopup());
 }
 
 }  // namespace

@@ -1,0 +1,78 @@
+#include "desktop/stage.h"
+
+#include <QApplication>
+#include <QFont>
+#include <QScreen>
+#include <algorithm>
+
+namespace frostmark {
+namespace {
+
+// The stage in ordinary letters: as little as the fullest pages, results and draft, can do with.
+constexpr double kWidth = 85;
+constexpr double kHeight = 50;
+// Letters much smaller than the user's own would not be read any more.
+constexpr double kLeastZoom = 0.5;
+
+// The height of the application's letters. A font's own metrics are rounded, which the stage should
+// not be.
+double LetterSize() {
+  constexpr double kPointsPerInch = 72;
+  return QApplication::font().pointSizeF() *
+         QGuiApplication::primaryScreen()->logicalDotsPerInchY() / kPointsPerInch;
+}
+
+QRect Room(QPoint at) {
+  const QScreen* monitor = QGuiApplication::screenAt(at);
+  if (monitor == nullptr) monitor = QGuiApplication::primaryScreen();
+  return monitor->availableGeometry();
+}
+
+// WINDOW moved so that it lies in ROOM: where it does not fit, its top left corner does.
+QRect Inside(QRect window, const QRect& room) {
+  window.moveRight(std::min(window.right(), room.right()));
+  window.moveBottom(std::min(window.bottom(), room.bottom()));
+  window.moveLeft(std::max(window.left(), room.left()));
+  window.moveTop(std::max(window.top(), room.top()));
+  return window;
+}
+
+}  // namespace
+
+QSize Stage::Size() { return (QSizeF(kWidth, kHeight) * LetterSize()).toSize(); }
+
+double Stage::FittingZoom(QSize room) {
+  const QSize size = Size();
+  const double across = static_cast<double>(room.width()) / size.width();
+  const double down = static_cast<double>(room.height()) / size.height();
+  return std::clamp(std::min(across, down), kLeastZoom, 1.0);
+}
+
+QRect Stage::ForScreen(QSize size) const {
+  const QRect room =
+      moved_ ? Room(centre_.toPoint()) : QGuiApplication::primaryScreen()->availableGeometry();
+  const QPointF centre = moved_ ? centre_ : QRectF(room).center();
+  const QPointF corner = centre - QPointF(size.width(), size.height()) / 2;
+  return Inside(QRect(corner.toPoint(), size), room);
+}
+
+QRect Stage::ForPopup(QSize size, const QRect& opener) const {
+  const QRect room = Room(opener.center());
+  QRect place(QPoint(), size);
+  place.moveCenter(opener.center());
+  if (opener.right() + size.width() <= room.right()) {
+    place.moveLeft(opener.right() + 1);
+  } else if (opener.left() - size.width() >= room.left()) {
+    place.moveRight(opener.left() - 1);
+  } else {
+    place.moveRight(room.right());
+  }
+  return Inside(place, room);
+}
+
+void Stage::MoveTo(const QRect& window) {
+  moved_ = true;
+  centre_ = QRectF(window).center();
+}
+
+}  // namespace frostmark

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QPoint>
+#include <QRect>
+#include <QSize>
+
+namespace frostmark {
+
+// Where windows go. The main screens take turns on one stage: they share one size and one centre,
+// so that the game seems to be a single window. The centre is the screen's at the start and moves
+// when the user drags a main screen. Popups lie beside the stage.
+class Stage {
+ public:
+  // The size of a main screen without its shadow, for the font of the application.
+  static QSize Size();
+  // How much smaller the font must be than it is for a main screen to fit into ROOM; 1 where it
+  // fits as it is.
+  static double FittingZoom(QSize room);
+
+  // The place of a main screen's window of SIZE.
+  QRect ForScreen(QSize size) const;
+  // The place of a popup of SIZE beside OPENER: to the right of it, to the left of it, or over its
+  // right edge, where the desktop has no room beside it.
+  QRect ForPopup(QSize size, const QRect& opener) const;
+
+  // The user has dragged a main screen there.
+  void MoveTo(const QRect& window);
+
+ private:
+  bool moved_ = false;
+  QPointF centre_;
+};
+
+}  // namespace frostmark
