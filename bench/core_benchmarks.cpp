@@ -1,4 +1,6 @@
 #include <benchmark/benchmark.h>
+#include <fcntl.h>
+#include <unistd.h>
 
 #include <array>
 #include <cstdio>
@@ -55,7 +57,24 @@ void UnwatchedGame(benchmark::State& state) {
 }
 BENCHMARK(UnwatchedGame);
 
-// The same files as a week's, read and written without the game, and the same number of rolls.
+// One file as safely as it goes: flushed before it takes its name.
+void WriteBare(const std::string& temporary, const std::string& path, const std::string& content) {
+  std::FILE* out = std::fopen(temporary.c_str(), "wb");
+  std::fwrite(content.data(), 1, content.size(), out);
+  std::fflush(out);
+  fsync(fileno(out));
+  std::fclose(out);
+  std::rename(temporary.c_str(), path.c_str());
+}
+
+void FlushBare(const std::string& folder) {
+  const int file = open(folder.c_str(), O_RDONLY | O_DIRECTORY);
+  fsync(file);
+  close(file);
+}
+
+// The same files as a week's, read, flushed and written without the game, and the same number of
+// rolls.
 void BareWeek(benchmark::State& state) {
   const std::string folder = World().Folder();
   const std::string path = folder + "/Settings/bare";
@@ -66,10 +85,7 @@ void BareWeek(benchmark::State& state) {
   int sum = 0;
   for (auto _ : state) {
     for (int file = 0; file < kFilesOfWeek; ++file) {
-      std::FILE* out = std::fopen(temporary.c_str(), "wb");
-      std::fwrite(content.data(), 1, content.size(), out);
-      std::fclose(out);
-      std::rename(temporary.c_str(), path.c_str());
+      WriteBare(temporary, path, content);
       std::FILE* in = std::fopen(path.c_str(), "rb");
       sum += static_cast<int>(std::fread(buffer.data(), 1, buffer.size(), in));
       std::fclose(in);
@@ -98,6 +114,31 @@ void SimulatedWeek(benchmark::State& state) {
   state.counters["reads"] = static_cast<double>(program.ordvik.counts().file_reads - reads) /
                             static_cast<double>(state.iterations());
 }
+
+// A save's nine files, each by itself, with the flushes that a save of all or nothing needs.
+void BareSave(benchmark::State& state) {
+  constexpr int kFilesOfSave = 9 + 1;  // and the list of them
+  const std::string settings = World().Folder() + "/Settings";
+  const std::string content(300, 'x');
+  for (auto _ : state) {
+    for (int file = 0; file < kFilesOfSave; ++file) {
+      WriteBare(settings + "/bare.tmp", settings + "/bare" + std::to_string(file), content);
+    }
+    FlushBare(World().Folder() + "/Teams/Rank F");
+    FlushBare(settings);
+    FlushBare(settings);
+  }
+  for (int file = 0; file < kFilesOfSave; ++file) {
+    std::remove((settings + "/bare" + std::to_string(file)).c_str());
+  }
+}
+BENCHMARK(BareSave)->Unit(benchmark::kMillisecond);
+
+void SavedGame(benchmark::State& state) {
+  Franchise& franchise = World().program().franchise;
+  for (auto _ : state) franchise.SaveGame();
+}
+BENCHMARK(SavedGame)->Unit(benchmark::kMillisecond);
 
 void LeagueBuild(benchmark::State& state) {
   WorldForBench world;

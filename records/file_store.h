@@ -48,8 +48,9 @@ class FileStore {
 
     // Holds back CONTENT for the file PATH in Settings. Read finds it from now on.
     void Hold(const std::string& path, std::string content);
-    // Puts all files into their places, the one held back first as the last of all.
-    void Commit();
+    // Puts all files into their places, the one held back first as the last of all. False when they
+    // are not there; then none is, or the rest follows with FinishSaves.
+    bool Commit();
 
    private:
     friend class FileStore;
@@ -72,7 +73,7 @@ class FileStore {
   int Replace(const std::string& path, std::string_view content);
   int Stage(const Save::Files& files, Moves& moves);
   bool MakeValid(const Moves& moves);
-  void PutTogether(const Save::Files& files);
+  bool PutTogether(const Save::Files& files);
   bool CarryOut(const std::string& list);
   static bool PutIntoPlace(const std::string& temporary, const std::string& path);
 

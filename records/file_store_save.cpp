@@ -53,27 +53,29 @@ void FileStore::Save::Hold(const std::string& path, std::string content) {
   files_.emplace_back(path, std::move(content));
 }
 
-void FileStore::Save::Commit() {
+bool FileStore::Save::Commit() {
   Files files;
   files.swap(files_);
   for (const auto& [path, content] : files) store_.Supersede(path);
   store_.TidyUp();
-  store_.PutTogether(files);
+  return store_.PutTogether(files);
 }
 
 // Without room nothing is saved, and the save before stays whole.
-void FileStore::PutTogether(const Save::Files& files) {
+bool FileStore::PutTogether(const Save::Files& files) {
   FlushFolders();  // the teams that the tables tell of
   Moves moves;
   const int error = Stage(files, moves);
   if (error == 0 && MakeValid(moves)) {
     tidy_ = CarryOut(unfinished_.SaveList());
-    return;
+    return tidy_;
   }
   for (const auto& [temporary, path] : moves) (void)unlink(temporary.c_str());
-  if (!OnlyOverwritingMayHelp(error)) return;
-  for (const auto& [path, content] : files) Replace(path, content);
+  if (!OnlyOverwritingMayHelp(error)) return false;
+  bool all = true;
+  for (const auto& [path, content] : files) all = Replace(path, content) == 0 && all;
   FlushFolders();
+  return all;
 }
 
 int FileStore::Stage(const Save::Files& files, Moves& moves) {

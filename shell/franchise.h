@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <cstddef>
 #include <string>
 
 #include "records/numbers.h"
@@ -195,18 +194,6 @@ class Franchise : public Screen {
   void ShowOwnResult(const std::string& name1, const std::string& name2);
   void AddAlert(const std::string& name1, const std::string& name2);
   void Develop(RecordList& list, int i, const char* skill);
-  enum class MoveState { kDue, kDone, kLost };
-  struct Move {
-    std::string source;
-    std::string destination;
-    MoveState state;
-  };
-  Move PlanMove(const std::string& team, std::size_t from, std::size_t to) const;
-  bool BorderOpen(std::size_t border);
-  std::string FinalPlace(std::size_t league, int place);
-  void RefuseShortTables();
-  void CrownChampion();
-  void Relocate(const std::string& team, std::size_t from, std::size_t to);
 
   Program& program_;
 };

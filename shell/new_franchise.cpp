@@ -1,4 +1,5 @@
 #include "shell/program.h"
+#include "shell/under_way.h"
 
 namespace frostmark {
 
@@ -12,9 +13,14 @@ void Startup::ConnectNewFranchise() {
 
 void Startup::PressNew() {
   // A league of six is the only sign of a running game: a world without a user's team has five.
+  // Where a build or a beginning was cut off there is none, whatever the folder holds.
   constexpr int kTeamsOfRunningGame = 6;
+  (void)FinishCutOffWork(program_.ordvik);
+  const bool cut_off = UnderWay(program_.ordvik).IsSet();
   File1.SetPath(program_.ordvik.RankFolder("Rank F"));
-  if (File1.ListCount() == kTeamsOfRunningGame) {
+  if (cut_off) {
+    BuildLeague();
+  } else if (File1.ListCount() == kTeamsOfRunningGame) {
     const Answer answer = program_.desktop.ShowBox(
         {BoxIcon::kStop, BoxButtons::kYesNo,
          "There is already a loaded game in progress. Would you like to create a new game?\n"
@@ -47,6 +53,7 @@ void Startup::PressBegin() {
   Franchise& franchise = program_.franchise;
   const ListBox& team = program_.team_creator.List1;
   const std::string name = Text1.Text() + " " + Text2.Text();
+  UnderWay(program_.ordvik).MarkBeginning();
   program_.ordvik.SaveListFile(team, program_.ordvik.TeamPath("Rank F", name));
   Hide();
   franchise.Show();

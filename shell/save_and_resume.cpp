@@ -1,6 +1,21 @@
+#include <algorithm>
+#include <filesystem>
+#include <optional>
+#include <system_error>
+#include <vector>
+
+#include "records/whole_file.h"
 #include "shell/program.h"
+#include "shell/under_way.h"
 
 namespace frostmark {
+namespace {
+
+std::string SavedFile(const Ordvik& ordvik, const ListBox& list) {
+  return ordvik.SettingsPath(list.Name() + ".fmk");
+}
+
+}  // namespace
 
 void Franchise::ConnectSaveAndClose() {
   HighButton2.OnClick = [this] { PressClose(); };
@@ -12,13 +27,16 @@ void Startup::ConnectLoad() {
 }
 
 void Franchise::SaveGame() {
-  // The five keys reach the disk together, so that a program killed here leaves the marker of one
-  // game and not a mixture of two.
-  program_.ordvik.WriteSettings({{"Team", TeamName.Caption()},
-                                 {"Rank", MyRank.Caption()},
-                                 {"Week", NextWeek.Caption()},
-                                 {"Season", Season.Caption()},
-                                 {"Champion", Champion.Caption()}});
+  Ordvik& ordvik = program_.ordvik;
+  // All files of Settings reach the disk together, so that a program killed here leaves one game
+  // and not a mixture of two.
+  FileStore::Save save(ordvik.files());
+  ordvik.WriteSettings({{"Team", TeamName.Caption()},
+                        {"Rank", MyRank.Caption()},
+                        {"Week", NextWeek.Caption()},
+                        {"Season", Season.Caption()},
+                        {"Champion", Champion.Caption()}},
+                       save);
   tempList.Clear();
   for (const ListBox* line : {&MainList, &TrainList}) {
     const int count = line->ListCount();
@@ -27,12 +45,13 @@ void Franchise::SaveGame() {
       program_.desktop.Yield();
     }
   }
-  program_.ordvik.SaveListFile(tempList, UserTeamPath());
-  const std::string settings = program_.ordvik.AppPath() + "/Settings/";
+  ordvik.SaveListFile(tempList, UserTeamPath());
   for (const ListBox* standings : StatRankLists()) {
-    program_.ordvik.SaveListFile(*standings, settings + standings->Name() + ".fmk");
+    ordvik.SaveListFile(*standings, SavedFile(ordvik, *standings), save);
   }
-  program_.ordvik.SaveListFile(Alerts, settings + "Alerts.fmk");
+  ordvik.SaveListFile(Alerts, SavedFile(ordvik, Alerts), save);
+  // There is a whole game again, so nothing is left of a beginning.
+  if (save.Commit()) UnderWay(ordvik).Clear();
   // Said in any case: no file operation tells how it went.
   program_.desktop.ShowBox({BoxIcon::kInformation, BoxButtons::kOk, "File saved!"});
 }
@@ -44,16 +63,77 @@ void Franchise::PressClose() {
 
 namespace {
 
+struct SavedGame {
+  std::string team;
+  std::string league;
+  std::string week;
+  std::string season;
+  std::string champion;
+  std::vector<ListBox*> lists;  // those that have a file
+};
+
 // The league of the saved franchise: the saved one or, when the program ended between a promotion
-// and the save behind it, the one where the team now lies. Empty when the team is nowhere.
-std::string LeagueOfSavedTeam(Ordvik& ordvik) {
-  const std::string team = ordvik.ReadSetting("Team");
-  std::string saved = ordvik.ReadSetting("Rank");
-  if (Ordvik::FileExists(ordvik.TeamPath(saved, team))) return saved;
+// and the save after it, the one where the team now lies. Empty when the team is nowhere.
+std::string LeagueOf(const Ordvik& ordvik, const std::string& team, const std::string& saved) {
+  if (!Ordvik::IsFileName(team)) return {};
+  const auto lies_in = [&](std::string_view rank) {
+    return Ordvik::FileExists(ordvik.TeamPath(rank, team));
+  };
   for (const char* rank : kRanks) {
-    if (Ordvik::FileExists(ordvik.TeamPath(rank, team))) return rank;
+    if (saved == rank && lies_in(rank)) return rank;
+  }
+  for (const char* rank : kRanks) {
+    if (lies_in(rank)) return rank;
   }
   return {};
+}
+
+bool CanBeListed(const std::string& folder) {
+  std::error_code error;
+  std::filesystem::directory_iterator entry(folder, error);
+  while (!error && entry != std::filesystem::directory_iterator()) entry.increment(error);
+  return !error;
+}
+
+// The lists among LISTS that have a file. A list without one was empty or has been lost, and is
+// taken as empty. Nothing when a file is there and cannot be read.
+std::optional<std::vector<ListBox*>> SavedLists(Ordvik& ordvik,
+                                                const std::vector<ListBox*>& lists) {
+  std::vector<ListBox*> saved;
+  for (ListBox* list : lists) {
+    const std::string path = SavedFile(ordvik, *list);
+    if (ordvik.files().Read(path)) {
+      saved.push_back(list);
+    } else if (!NothingLiesAt(path)) {
+      return std::nullopt;
+    }
+  }
+  return saved;
+}
+
+// What a saved game consists of, all of it looked at before anything is changed: a game that cannot
+// be taken up whole is none, and reading a file that is not there would never end.
+std::optional<SavedGame> FindSavedGame(Program& program) {
+  Ordvik& ordvik = program.ordvik;
+  Franchise& franchise = program.franchise;
+  const auto values = ordvik.ReadSettings({"Team", "Rank", "Week", "Season", "Champion"});
+  if (!values) return std::nullopt;
+  SavedGame game{(*values)[0], "", (*values)[2], (*values)[3], (*values)[4], {}};
+  game.league = LeagueOf(ordvik, game.team, (*values)[1]);
+  if (game.league.empty()) return std::nullopt;
+  // LoadNewTeams takes the league in which it finds the team last.
+  for (const char* rank : kRanks) {
+    const std::string path = ordvik.TeamPath(rank, game.team);
+    if (Ordvik::FileExists(path) && !ordvik.files().Read(path)) return std::nullopt;
+    if (!CanBeListed(ordvik.RankFolder(rank))) return std::nullopt;
+  }
+  const auto standings = franchise.StatRankLists();
+  std::vector<ListBox*> lists(standings.begin(), standings.end());
+  lists.push_back(&franchise.Alerts);
+  auto saved = SavedLists(ordvik, lists);
+  if (!saved) return std::nullopt;
+  game.lists = std::move(*saved);
+  return game;
 }
 
 }  // namespace
@@ -61,15 +141,18 @@ std::string LeagueOfSavedTeam(Ordvik& ordvik) {
 void Startup::PressLoad() {
   Ordvik& ordvik = program_.ordvik;
   Franchise& franchise = program_.franchise;
-  // Without a saved game there is nothing to take up, and reading a file that is not there would
-  // never end.
-  const std::string league = LeagueOfSavedTeam(ordvik);
-  if (league.empty()) return;
-  franchise.TeamName.SetCaption(ordvik.ReadSetting("Team"));
-  franchise.MyRank.SetCaption(league);
-  franchise.NextWeek.SetCaption(ordvik.ReadSetting("Week"));
-  franchise.Season.SetCaption(ordvik.ReadSetting("Season"));
-  franchise.Champion.SetCaption(ordvik.ReadSetting("Champion"));
+  if (!FinishCutOffWork(ordvik) || UnderWay(ordvik).IsBuild()) return;
+  const auto game = FindSavedGame(program_);
+  if (!game) return;
+  const auto load = [&](ListBox& list) {
+    if (std::find(game->lists.begin(), game->lists.end(), &list) == game->lists.end()) return;
+    ordvik.LoadSettingsList(list, list.Name() + ".fmk");
+  };
+  franchise.TeamName.SetCaption(game->team);
+  franchise.MyRank.SetCaption(game->league);
+  franchise.NextWeek.SetCaption(game->week);
+  franchise.Season.SetCaption(game->season);
+  franchise.Champion.SetCaption(game->champion);
 
   franchise.tempList.Clear();
   ordvik.LoadPlayerFile(franchise.tempList, franchise.UserTeamPath());
@@ -81,9 +164,9 @@ void Startup::PressLoad() {
   franchise.LoadNewTeams();
   for (ListBox* standings : franchise.StatRankLists()) {
     standings->Clear();
-    ordvik.LoadSettingsList(*standings, standings->Name() + ".fmk");
+    load(*standings);
   }
-  ordvik.LoadSettingsList(franchise.Alerts, "Alerts.fmk");
+  load(franchise.Alerts);
   Frame1.Hide();
   HighButton4.Hide();
   HighButton5.Hide();

@@ -1,7 +1,9 @@
 #include <array>
 #include <limits>
 
+#include "development/league_moves.h"
 #include "shell/program.h"
+#include "shell/under_way.h"
 
 namespace frostmark {
 namespace {
@@ -54,6 +56,8 @@ void Startup::BuildLeague() {
       {BoxIcon::kInformation, BoxButtons::kOk, "Please wait as this may take some time..."});
   for (const char* city : kCities) List3.AddItem(city);
   for (const char* nickname : kNicknames) List4.AddItem(nickname);
+  UnderWay(program_.ordvik).MarkBuild();
+  ForgetLeagueMoves(program_.ordvik);
   for (const char* rank : kRanks) {
     File1.SetPath(program_.ordvik.RankFolder(rank));
     const int count = File1.ListCount();
@@ -66,6 +70,7 @@ void Startup::BuildLeague() {
     for (int team = 0; team < band.teams; ++team)
       BuildTeam(band.rank, band.weakest, band.strongest);
   }
+  UnderWay(program_.ordvik).Clear();
   program_.franchise.Season.SetCaption("0");
   program_.franchise.Champion.SetCaption("0");
 }

@@ -1,6 +1,5 @@
 #include <filesystem>
 
-#include "records/runtime_error.h"
 #include "tests/unit/game_fixture.h"
 #include "tests/unit/watchful_desktop.h"
 
@@ -223,27 +222,43 @@ TEST_F(PromotionTest, ATeamOfTheSameNameInTheNewLeagueIsReplaced) {
   EXPECT_EQ(ReadLines(world.TeamPath("Rank E", "F0 Wolves")), MakeRoster(74));
 }
 
-TEST_F(PromotionTest, ATableThatIsTooShortEndsTheProgramBeforeAnythingMoves) {
-  for (ListBox* table : franchise().StatRankLists()) {
-    const Lines whole = ItemsOf(*table);
-    if (table == &franchise().StatRankF) {
-      table->Clear();
-    } else {
-      table->RemoveItem(5);
-    }
-    const Lines files = world.Everything();
-    try {
-      franchise().theOffSeason();
-      ADD_FAILURE() << table->Name();
-    } catch (const RuntimeError& error) {
-      EXPECT_STRNE(error.what(), "");
-    }
-    EXPECT_TRUE(world.Everything() == files);
-    EXPECT_EQ(franchise().Season.Caption(), "00");
-    EXPECT_EQ(franchise().NextWeek.Caption(), "Week 1");
-    EXPECT_FALSE(results().Visible());
-    FillList(*table, whole);
+TEST_F(PromotionTest, ATableThatIsTooShortKeepsItsBordersClosed) {
+  franchise().StatRankD.RemoveItem(5);
+  franchise().StatRankB.Clear();
+  franchise().theOffSeason();
+  EXPECT_EQ(results().Label19.Caption(), "");
+  EXPECT_EQ(results().Label16.Caption(), "");
+  EXPECT_EQ(results().Label15.Caption(), "");
+  EXPECT_TRUE(LiesIn("E0 Wolves", "Rank E"));  // nobody comes down for it
+  EXPECT_TRUE(LiesIn("D0 Wolves", "Rank C"));
+  EXPECT_TRUE(LiesIn("C5 Wolves", "Rank D"));
+  EXPECT_TRUE(LiesIn("C0 Wolves", "Rank C"));
+  EXPECT_TRUE(LiesIn("A5 Wolves", "Rank A"));
+  for (const char* rank : kRanks) EXPECT_EQ(world.FileNames(rank).size(), 6U) << rank;
+  EXPECT_EQ(franchise().Season.Caption(), "1");
+  EXPECT_TRUE(results().Visible());
+}
+
+TEST_F(PromotionTest, ANameThatLeadsOutOfItsLeagueMovesNothing) {
+  WriteText(world.path() + "/letter", "to a friend");
+  franchise().StatRankC.SetList(0, "(9-0-0) ../../letter");
+  franchise().theOffSeason();
+  EXPECT_EQ(ReadText(world.path() + "/letter"), "to a friend");
+  EXPECT_TRUE(LiesIn("B5 Wolves", "Rank B"));
+}
+
+TEST_F(PromotionTest, ATitleIsAddedToTheNumberAsItStands) {
+  for (const auto& [before, after] :
+       {std::pair{"2.5", "3.5"}, {"0", "1"}, {"00", "1"}, {"", "1"}, {"-0.25", "0.75"}}) {
+    franchise().Champion.SetCaption(before);
+    EndSeasonOf("A0 Wolves");
+    EXPECT_EQ(franchise().Champion.Caption(), after);
   }
+}
+
+TEST_F(PromotionTest, LeavesNothingInSettings) {
+  franchise().theOffSeason();
+  EXPECT_TRUE(world.SettingsNames().empty());
 }
 
 TEST_F(PromotionTest, TheLastOfTheBottomLeagueMayBeMissing) {

@@ -1,11 +1,10 @@
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <unistd.h>
 
-#include <csignal>
 #include <filesystem>
 
 #include "records/runtime_error.h"
+#include "tests/unit/full_disk.h"
 #include "tests/unit/game_fixture.h"
 
 // Files and folders as nobody should leave them: nothing may crash, hang or get lost.
@@ -115,26 +114,6 @@ TEST_F(BadInputTest, WithoutASettingsFolderTeamsAreStillWritten) {
   EXPECT_EQ(ReadLines(TeamFile()), MakeRoster(80));
   EXPECT_EQ(world.FileNames("Rank F"), (Lines{"Boston Braves"}));
 }
-
-// A disk on which no file can grow beyond BYTES.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t bytes) : signal_(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit limit{bytes, before_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-  ~FullDisk() {
-    setrlimit(RLIMIT_FSIZE, &before_);
-    (void)std::signal(SIGXFSZ, signal_);
-  }
-
- private:
-  void (*signal_)(int);
-  rlimit before_{};
-};
 
 TEST_F(BadInputTest, AFullDiskLeavesTheOldFile) {
   Save(MakeRoster(80), TeamFile());

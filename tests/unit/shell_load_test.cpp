@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 
@@ -201,15 +202,65 @@ TEST_F(LoadTest, WithGarbledSettingsNothingHappens) {
   ExpectNothingHappens();
 }
 
-TEST_F(LoadTest, StandingsThatAreMissingWaitForGoodWithTheStartScreenUp) {
+TEST_F(LoadTest, AListWithoutAFileIsTakenAsEmpty) {
   std::filesystem::remove(world.SettingsPath("StatRankD.fmk"));
-  struct Enough {};
-  for (int i = 0; i < 3; ++i) desktop().AtWait([] {});
-  desktop().AtWait([] { throw Enough(); });
-  EXPECT_THROW(Load(), Enough);
+  std::filesystem::remove(world.SettingsPath("Alerts.fmk"));
+  Load();
+  EXPECT_TRUE(franchise().Visible());
   EXPECT_EQ(franchise().StatRankE.ListCount(), 2);
-  EXPECT_EQ(ItemsOf(franchise().StatRankD), Lines(4, ""));
-  EXPECT_TRUE(startup().Visible());
+  EXPECT_EQ(franchise().StatRankD.ListCount(), 0);
+  EXPECT_EQ(franchise().Alerts.ListCount(), 0);
+  EXPECT_EQ(franchise().MainList.ListCount(), 6);
+  EXPECT_EQ(desktop().Waits(), 0);
+}
+
+TEST_F(LoadTest, AFileThatCannotBeReadStopsItWithoutATrace) {
+  for (const char* name : {"StatRankD.fmk", "Alerts.fmk", "settings.fmk"}) {
+    const std::string path = world.SettingsPath(name);
+    const std::string content = ReadText(path);
+    std::filesystem::remove(path);
+    std::filesystem::create_directory(path);
+    ExpectNothingHappens();
+    std::filesystem::remove(path);
+    ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+    ExpectNothingHappens();
+    std::filesystem::remove(path);
+    std::filesystem::create_symlink("/dev/zero", path);
+    ExpectNothingHappens();
+    std::filesystem::remove(path);
+    std::filesystem::create_symlink("nowhere", path);
+    ExpectNothingHappens();
+    std::filesystem::remove(path);
+    WriteText(path, content);
+    std::filesystem::resize_file(path, (std::size_t{16} << 20U) + 1);
+    ExpectNothingHappens();
+    WriteText(path, content);
+  }
+  Load();
+  EXPECT_TRUE(franchise().Visible());
+  EXPECT_EQ(franchise().MainList.ListCount(), 6);
+}
+
+TEST_F(LoadTest, ATeamThatIsNoEntryOfALeagueIsNotLoadedAndNotWritten) {
+  WriteText(world.path() + "/letter", "to a friend");
+  for (const char* team : {"../../letter", "../Rank F/F2 Wolves", "..", "."}) {
+    SaveSettings(team, "Rank F", "Week 3");
+    ExpectNothingHappens();
+  }
+  WriteText(world.path() + "/F2 Wolves", "outside");
+  SaveSettings("F2 Wolves", "../..", "Week 3");
+  Load();
+  // The league is none of the six, so the team is looked for in their folders.
+  EXPECT_EQ(franchise().MyRank.Caption(), "Rank F");
+  EXPECT_EQ(franchise().MainList.ListCount(), 6);
+  franchise().SaveGame();
+  EXPECT_EQ(ReadText(world.path() + "/F2 Wolves"), "outside");
+}
+
+TEST_F(LoadTest, ReadsTheSettingsOnce) {
+  Load();
+  // Settings, roster, six tables, news, roster, opponent.
+  EXPECT_EQ(ordvik().counts().file_reads, 1 + 1 + 6 + 1 + 1 + 1);
 }
 
 }  // namespace

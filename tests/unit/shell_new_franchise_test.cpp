@@ -4,8 +4,10 @@
 #include <array>
 #include <functional>
 #include <utility>
+#include <filesystem>
 
 #include "tests/unit/game_fixture.h"
+#include "tests/unit/watchful_desktop.h"
 
 namespace frostmark::testing {
 namespace {
@@ -285,6 +287,24 @@ TEST_F(BeginTest, ASecondBeginInOneRunAddsToTheRoster) {
 
 using BeginWithoutBuildTest = NewFranchiseTest;
 
+// Whichever team it replaces, the league of five leaves one week in five without an opponent.
+TEST_F(BeginWithoutBuildTest, WithTheNameOfAnotherTeamItEndsAndSaves) {
+  for (int taken = 0; taken < 5; ++taken) {
+    SCOPED_TRACE(taken);
+    Restart();
+    dice().KeepRolls(false);
+    FillRankF(5);
+    New();
+    Generate();
+    startup().Text1.Type("F" + std::to_string(taken));
+    startup().Text2.Type("Wolves");
+    Begin();
+    EXPECT_EQ(desktop().Boxes().back().text, "File saved!");
+    EXPECT_EQ(ordvik().ReadSetting("Team"), WolvesOf("Rank F", taken));
+    EXPECT_EQ(desktop().Waits(), 0);
+  }
+}
+
 TEST_F(BeginWithoutBuildTest, SeasonAndChampionshipsAreSavedAsTheScreenStarts) {
   FillRankF(5);
   New();
@@ -439,6 +459,88 @@ TEST_F(BeginTest, ATakenNameEndsInASaveWhateverPlaceTheTeamHas) {
     EXPECT_EQ(ordvik().ReadSetting("Team"), other);
     EXPECT_EQ(franchise().OppTeam.Caption(), Opponent());
   }
+}
+
+class CutOffNewTest : public NewFranchiseTest {
+ protected:
+  struct CutOff {};
+  std::size_t TeamsIn(const char* rank) const { return world.FileNames(rank).size(); }
+  bool IsMarked() const { return std::filesystem::exists(world.SettingsPath("unfinished.new")); }
+  void NewInANewRun() {
+    Restart();
+    dice().KeepRolls(false);
+    New();
+  }
+};
+
+TEST_F(CutOffNewTest, ABuildThatWasCutOffIsMadeAgainWithoutAQuestion) {
+  // Some teams are deleted, some are made; the counts in "Rank F" are 0 to 6.
+  for (const int yields : {0, 3, 8, 36, 100, 1000, 3000}) {
+    SCOPED_TRACE(yields);
+    for (const char* rank : kRanks) {
+      for (const std::string& team : world.FileNames(rank)) {
+        Ordvik::DeleteFile(world.TeamPath(rank, team));
+      }
+    }
+    world.FillWorld();
+    desktop().QueueAnswer("yes");
+    for (int i = 0; i < yields; ++i) desktop().AtYield([] {});
+    desktop().AtYield([] { throw CutOff(); });
+    EXPECT_THROW(New(), CutOff);
+    EXPECT_TRUE(IsMarked());
+    NewInANewRun();
+    ASSERT_EQ(desktop().Boxes().size(), 1U);
+    EXPECT_EQ(desktop().Boxes()[0].text, "Please wait as this may take some time...");
+    EXPECT_EQ(TeamsIn("Rank F"), 5U);
+    for (const char* rank : {"Rank E", "Rank D", "Rank C", "Rank B", "Rank A"}) {
+      EXPECT_EQ(TeamsIn(rank), 6U);
+    }
+    EXPECT_TRUE(startup().Frame1.Visible());
+    EXPECT_FALSE(IsMarked());
+  }
+}
+
+TEST_F(CutOffNewTest, TheGameBeforeIsNoneAnyMore) {
+  New();
+  Begin();
+  desktop().QueueAnswer("yes");
+  desktop().AtYield([] { throw CutOff(); });
+  EXPECT_THROW(New(), CutOff);
+  Restart();
+  startup().PressLoad();
+  EXPECT_FALSE(franchise().Visible());
+  EXPECT_EQ(franchise().TeamName.Caption(), "");
+}
+
+TEST_F(CutOffNewTest, AfterABuildThePanelOpensAtOnce) {
+  New();
+  NewInANewRun();
+  EXPECT_TRUE(desktop().Boxes().empty());
+  EXPECT_TRUE(startup().Frame1.Visible());
+}
+
+TEST_F(CutOffNewTest, ABeginningThatWasCutOffBeforeItsSaveIsBuiltOver) {
+  New();
+  Generate();
+  for (int i = 0; i < 40; ++i) desktop().AtYield([] {});  // the team is in "Rank F" by now
+  desktop().AtYield([] { throw CutOff(); });
+  EXPECT_THROW(Begin(), CutOff);
+  EXPECT_EQ(TeamsIn("Rank F"), 6U);
+  NewInANewRun();
+  EXPECT_EQ(desktop().Boxes().size(), 1U);  // no question
+  EXPECT_EQ(TeamsIn("Rank F"), 5U);
+}
+
+// It is saved before the box says so.
+TEST_F(CutOffNewTest, ABeginningIsWholeWhenItsBoxIsShown) {
+  New();
+  Generate();
+  WatchfulDesktop watchful;
+  Program other(watchful, dice(), world.path());
+  watchful.OnBox = [this] { EXPECT_FALSE(IsMarked()); };
+  other.team_creator.GenTeam();
+  other.startup.PressBegin();
+  EXPECT_EQ(world.SettingsNames().size(), 8U);
 }
 
 }  // namespace

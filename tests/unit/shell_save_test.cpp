@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "tests/unit/full_disk.h"
 #include "tests/unit/game_fixture.h"
 
 namespace frostmark::testing {
@@ -58,16 +59,19 @@ TEST_F(SaveTest, SaysSoAlsoWhenNothingCouldBeWritten) {
   EXPECT_FALSE(std::filesystem::exists(world.path()));
 }
 
-TEST_F(SaveTest, WritesTheSettingsFirstThenTheRosterThenTheStandingsThenTheAlerts) {
-  const auto exists = [this](const char* name) {
-    return std::filesystem::exists(world.SettingsPath(name));
+// A handler that runs in the middle of a save finds what has been saved so far, as if it were on
+// the disk; there it all appears at once, but for the roster.
+TEST_F(SaveTest, TakesTheSettingsFirstThenTheRosterThenTheStandingsThenTheAlerts) {
+  const auto taken = [this](const std::string& name) {
+    return ordvik().files().Read(world.SettingsPath(name)).has_value();
   };
   const Lines roster = ReadLines(world.TeamPath("Rank F", "F2 Wolves"));
   franchise().MainList.SetList(0, "changed");
   // Eleven yields gather the roster and eleven write it, then two a league and two for the news.
   for (int i = 0; i < 22; ++i) {
     desktop().AtYield([=, this] {
-      EXPECT_TRUE(exists("settings.fmk"));
+      EXPECT_TRUE(taken("settings.fmk"));
+      EXPECT_EQ(ordvik().ReadSetting("Week"), "Week 3");
       EXPECT_EQ(ReadLines(world.TeamPath("Rank F", "F2 Wolves")), roster);
       EXPECT_EQ(franchise().tempList.ListCount(), i < 11 ? i + 1 : 11);
     });
@@ -78,22 +82,103 @@ TEST_F(SaveTest, WritesTheSettingsFirstThenTheRosterThenTheStandingsThenTheAlert
       desktop().AtYield([=, this] {
         EXPECT_EQ(ReadLines(world.TeamPath("Rank F", "F2 Wolves"))[0], "changed");
         for (std::size_t other = 0; other < leagues.size(); ++other) {
-          EXPECT_EQ(exists((std::string("StatRank") + leagues[other] + ".fmk").c_str()),
-                    other < league);
+          EXPECT_EQ(taken(std::string("StatRank") + leagues[other] + ".fmk"), other < league);
         }
       });
     }
   }
   for (int line = 0; line < 2; ++line) {
-    desktop().AtYield([=] {
-      EXPECT_TRUE(exists("StatRankA.fmk"));
-      EXPECT_FALSE(exists("Alerts.fmk"));
+    desktop().AtYield([=, this] {
+      EXPECT_TRUE(taken("StatRankA.fmk"));
+      EXPECT_FALSE(taken("Alerts.fmk"));
+      EXPECT_TRUE(world.SettingsNames().empty());
     });
   }
   const auto before = desktop().Yields();
   franchise().SaveGame();
   EXPECT_EQ(desktop().Yields() - before, 22 + 12 + 2);
-  EXPECT_TRUE(exists("Alerts.fmk"));
+  EXPECT_EQ(world.SettingsNames().size(), 8U);
+}
+
+// A press of "Save" inside the yields of another one, at each of them: what is on the disk in the
+// end is what would be there if each file had been written at its step.
+TEST_F(SaveTest, ASaveWithinASaveIsTheLaterOne) {
+  for (int yield = 0; yield < 22 + 12 + 2; ++yield) {
+    franchise().NextWeek.SetCaption("Week 3");
+    FillList(franchise().Alerts, {"newest", "oldest"});
+    for (int i = 0; i < yield; ++i) desktop().AtYield([] {});
+    desktop().AtYield([this] {
+      franchise().NextWeek.SetCaption("Week 4");
+      FillList(franchise().Alerts, {"inner one", "inner two"});
+      franchise().SaveGame();
+    });
+    franchise().SaveGame();
+    EXPECT_EQ(ordvik().ReadSetting("Week"), "Week 4") << yield;
+    const Lines news = ReadLines(world.SettingsPath("Alerts.fmk"));
+    // At the last yield the outer save has its news whole and is about to write them.
+    EXPECT_EQ(news.back(), yield < 22 + 12 + 2 - 1 ? "inner two" : "oldest") << yield;
+    EXPECT_EQ(world.SettingsNames().size(), 8U) << yield;
+  }
+}
+
+TEST_F(SaveTest, ASettingWrittenWithinASaveStays) {
+  desktop().AtYield([this] { ordvik().WriteSetting("Week", "Week 9"); });
+  franchise().SaveGame();
+  EXPECT_EQ(ordvik().ReadSetting("Week"), "Week 9");
+  EXPECT_EQ(ordvik().ReadSetting("Team"), "F2 Wolves");
+}
+
+TEST_F(SaveTest, IsAllOrNothingWhereverTheRoomEnds) {
+  franchise().SaveGame();
+  const auto settings = [this] {
+    Lines files;
+    for (const std::string& file : world.Everything()) {
+      if (file.starts_with("Settings/")) files.push_back(file);
+    }
+    return files;
+  };
+  const Lines before = settings();
+  FillList(franchise().Alerts, {std::string(5000, 'x')});
+  franchise().NextWeek.SetCaption("Week 4");
+  for (const rlim_t room : {0, 1, 30, 100, 4000}) {
+    const FullDisk full(room);
+    franchise().SaveGame();
+    EXPECT_EQ(settings(), before) << room;
+  }
+  franchise().SaveGame();
+  EXPECT_EQ(ordvik().ReadSetting("Week"), "Week 4");
+}
+
+TEST_F(SaveTest, KeepsThePermissionsOfItsFiles) {
+  franchise().SaveGame();
+  const auto mode = [](const std::string& path) {
+    return std::filesystem::status(path).permissions();
+  };
+  constexpr auto kOwnerOnly =
+      std::filesystem::perms::owner_read | std::filesystem::perms::owner_write;
+  for (const std::string& path :
+       {world.SettingsPath("settings.fmk"), world.SettingsPath("Alerts.fmk"),
+        world.TeamPath("Rank F", "F2 Wolves")}) {
+    std::filesystem::permissions(path, kOwnerOnly);
+  }
+  franchise().SaveGame();
+  EXPECT_EQ(mode(world.SettingsPath("settings.fmk")), kOwnerOnly);
+  EXPECT_EQ(mode(world.SettingsPath("Alerts.fmk")), kOwnerOnly);
+  EXPECT_EQ(mode(world.TeamPath("Rank F", "F2 Wolves")), kOwnerOnly);
+}
+
+TEST_F(SaveTest, NamesWithBlanksAndQuotesAtTheirEndsComeBack) {
+  for (const char* team :
+       {" ", "Quebec ", " Quebec", "\"Quebec\" Ice", "'Quebec Ice'", "Ice\"", "\""}) {
+    world.WriteTeam("Rank F", team, MakeRoster(80));
+    franchise().TeamName.SetCaption(team);
+    franchise().SaveGame();
+    EXPECT_EQ(ordvik().ReadSetting("Team"), team);
+    Session other(world.path());
+    other.program.startup.PressLoad();
+    EXPECT_TRUE(other.program.franchise.Visible()) << team;
+    EXPECT_EQ(other.program.franchise.TeamName.Caption(), team);
+  }
 }
 
 TEST_F(SaveTest, CloseSavesNothingAsksNothingAndKeepsTheLists) {

@@ -1,7 +1,9 @@
 set(shell_tests
   development_cut_off_season_test.cpp
+  development_league_moves_test.cpp
   records_bad_input_test.cpp
   records_chance_test.cpp
+  records_disk_test.cpp
   records_fields_test.cpp
   records_files_test.cpp
   records_list_test.cpp
