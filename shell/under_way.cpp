@@ -1,6 +1,7 @@
 #include "shell/under_way.h"
 
 #include "development/league_moves.h"
+#include "records/whole_file.h"
 
 namespace frostmark {
 namespace {
@@ -20,9 +21,12 @@ void UnderWay::MarkBeginning() {
 }
 
 void UnderWay::Clear() {
-  // What the mark has guarded is on the disk before it goes.
+  if (!IsSet()) return;
+  // What the mark has guarded is on the disk before it goes. Then it has to be gone for good: if it
+  // came back with the power, the next "New" would build over a game.
   ordvik_.files().FlushFolders();
   Ordvik::DeleteFile(ordvik_.SettingsPath(kMark));
+  (void)FlushFolder(ordvik_.AppPath() + "/Settings");
 }
 
 bool UnderWay::IsSet() const { return Ordvik::FileExists(ordvik_.SettingsPath(kMark)); }

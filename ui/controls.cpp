@@ -39,15 +39,23 @@ bool BeforeWithoutCase(const std::string& a, const std::string& b) {
   return Lower(*difference.first) < Lower(*difference.second);
 }
 
-std::vector<std::string> FileNames(const std::string& folder) {
+// False when the listing failed half-way.
+bool ListFiles(const std::string& folder, std::vector<std::string>& names) {
   namespace fs = std::filesystem;
-  std::vector<std::string> names;
+  names.clear();
   std::error_code error;
   fs::directory_iterator entry(folder, error);
   for (const fs::directory_iterator end; !error && entry != end; entry.increment(error)) {
     std::error_code ignored;
     if (entry->is_regular_file(ignored)) names.push_back(entry->path().filename().string());
   }
+  return !error;
+}
+
+std::vector<std::string> FileNames(const std::string& folder) {
+  std::vector<std::string> names;
+  // Half a listing would count as a shorter league, so it is read once more.
+  if (!ListFiles(folder, names)) ListFiles(folder, names);
   std::sort(names.begin(), names.end(), BeforeWithoutCase);
   return names;
 }

@@ -112,6 +112,58 @@ TEST_F(DiskTest, WhereNoNewFileIsAllowedTheOldOneIsWrittenOver) {
   EXPECT_TRUE(world.SettingsNames().empty());
 }
 
+// A league on another disk, where no rename leads.
+class OtherDiskTest : public DiskTest {
+ protected:
+  void SetUp() override {
+    std::string folder = "/dev/shm/frostmark-test-XXXXXX";
+    if (mkdtemp(folder.data()) == nullptr) GTEST_SKIP() << "no second disk";
+    other_ = folder;
+    fs::remove(world.path() + "/Teams/Rank E");
+    fs::create_directory_symlink(other_, world.path() + "/Teams/Rank E");
+    world.WriteTeam("Rank F", "Boston Braves", MakeRoster(80));
+  }
+  void TearDown() override {
+    std::error_code ignored;
+    if (!other_.empty()) fs::remove_all(other_, ignored);
+  }
+  std::string Destination() const { return world.TeamPath("Rank E", "Boston Braves"); }
+
+ private:
+  std::string other_;
+};
+
+TEST_F(OtherDiskTest, ATeamIsCopiedAndThenDeleted) {
+  fs::permissions(TeamFile(), fs::perms::owner_read | fs::perms::owner_write);
+  EXPECT_TRUE(Ordvik::MoveFile(TeamFile(), Destination()));
+  EXPECT_EQ(ReadLines(Destination()), MakeRoster(80));
+  EXPECT_EQ(fs::status(Destination()).permissions(),
+            fs::perms::owner_read | fs::perms::owner_write);
+  EXPECT_FALSE(fs::exists(TeamFile()));
+}
+
+TEST_F(OtherDiskTest, WithoutRoomTheTeamStaysAndLeavesNoGhost) {
+  const FullDisk full(100);
+  EXPECT_FALSE(Ordvik::MoveFile(TeamFile(), Destination()));
+  EXPECT_EQ(ReadLines(TeamFile()), MakeRoster(80));
+  EXPECT_FALSE(fs::exists(Destination()));
+}
+
+TEST_F(OtherDiskTest, ATeamIsWrittenInPlace) {
+  EXPECT_TRUE(Ordvik::MoveFile(TeamFile(), Destination()));
+  RecordList list;
+  FillList(list, MakeRoster(90));
+  ordvik().SaveListFile(list, Destination());
+  EXPECT_EQ(ReadLines(Destination()), MakeRoster(90));
+  {
+    const FullDisk full(0);
+    FillList(list, Lines(40, "far too long"));
+    ordvik().SaveListFile(list, Destination());
+  }
+  EXPECT_EQ(ReadLines(Destination()), MakeRoster(90));
+  EXPECT_TRUE(world.SettingsNames().empty());
+}
+
 class CutOffSaveTest : public GameFixture {
  protected:
   void SetUp() override {
