@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <filesystem>
 #include <functional>
 #include <utility>
-#include <filesystem>
 
 #include "tests/unit/game_fixture.h"
 #include "tests/unit/watchful_desktop.h"
