@@ -16,11 +16,6 @@ constexpr std::size_t kBarWidth = 40;
 constexpr std::size_t kShortValue = 3;
 constexpr std::size_t kIndent = 4;
 
-bool LeftOut(const Control& control) {
-  const char* const hint = HintFor(control);
-  return hint != nullptr && *hint == '\0';
-}
-
 // Draws the controls of one screen in the order in which they are declared, which is the order in
 // which they are read. A label that ends in a colon waits for what it names; short values gather on
 // one line, neighbouring lists beside one another.
@@ -61,8 +56,7 @@ class ScreenDrawing {
   std::size_t RoomForValues() const { return page_.for_menu ? page_.width - 5 : page_.width; }
 
   std::string Heading(const Control& control) {
-    const char* const hint = HintFor(control);
-    std::string heading = !name_.empty() ? name_ : hint != nullptr ? hint : control.Name() + ":";
+    std::string heading = !name_.empty() ? name_ : HeadingOf(control);
     name_.clear();
     return heading;
   }
@@ -101,7 +95,7 @@ void ScreenDrawing::PutFrames() {
 }
 
 void ScreenDrawing::DrawTitle(const Screen& screen) {
-  std::string title = "== " + TitleFor(screen) + (screen.Minimized() ? " (minimized) " : " ");
+  std::string title = "== " + screen.Title() + (screen.Minimized() ? " (minimized) " : " ");
   title.append(page_.width - std::min(page_.width, WidthOf(title)), '=');
   Line(title);
 }
@@ -137,7 +131,7 @@ void ScreenDrawing::DrawControl(Control& control) {
 
 void ScreenDrawing::DrawLabel(const Label& label) {
   const std::string& caption = label.Caption();
-  const char* const hint = HintFor(label);
+  const char* const in_drawing = label.called().in_drawing;
   if (LeftOut(label) || label.OnClick) return;  // what can be clicked is offered below the screens
   if (caption.ends_with(':')) {
     if (!name_.empty()) DrawValue("");
@@ -145,7 +139,7 @@ void ScreenDrawing::DrawLabel(const Label& label) {
     return;
   }
   FlushLists();
-  if (name_.empty() && hint != nullptr) name_ = hint;
+  if (name_.empty() && in_drawing != nullptr) name_ = in_drawing;
   if (!name_.empty() || !caption.empty()) DrawValue(caption);
 }
 

@@ -7,12 +7,15 @@
 
 namespace frostmark {
 
-// What a control is called in text where its caption does not say it: drawn on a screen, its place
-// and colours tell. Nullptr where the caption is enough; empty for a control that text leaves out.
-const char* HintFor(const Control& control);
+// Whether text leaves CONTROL out.
+bool LeftOut(const Control& control);
 
-// The caption of SCREEN, or what to call it where the caption is never seen.
-const std::string& TitleFor(const Screen& screen);
+// What stands over a list or beside a bar or box that no label names.
+std::string HeadingOf(const Control& control);
+
+// What CONTROL is called where it is offered for a press or a choice; OTHERWISE when its screen
+// calls it nothing.
+std::string OfferedAs(const Control& control, const std::string& otherwise);
 
 // Whether the news of a list comes at its end.
 bool GrowsAtItsEnd(const Control& list);

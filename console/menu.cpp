@@ -10,15 +10,13 @@ namespace {
 
 using Asks = MenuEntry::Asks;
 
-std::string CalledBy(const Control& control, const std::string& otherwise) {
-  const char* const hint = HintFor(control);
-  std::string words = Printable(hint != nullptr && *hint != '\0' ? hint : otherwise);
+std::string WithoutColon(std::string words) {
   if (words.ends_with(':')) words.pop_back();
   return words;
 }
 
-// The label in front of CONTROL if it names it.
-std::string NameInFront(const Screen& screen, const Control& control) {
+// What a list or a box is called: as the label in front of it says, or as its screen does.
+std::string NameOf(const Screen& screen, const Control& control) {
   const Control* before = nullptr;
   for (Control* other : screen.Controls()) {
     if (other == &control) break;
@@ -26,9 +24,9 @@ std::string NameInFront(const Screen& screen, const Control& control) {
   }
   if (before != nullptr && before->Kind() == ControlKind::kLabel) {
     const std::string& caption = static_cast<const Label*>(before)->Caption();
-    if (caption.ends_with(':')) return caption;
+    if (caption.ends_with(':')) return WithoutColon(caption);
   }
-  return control.Name();
+  return WithoutColon(HeadingOf(control));
 }
 
 void AddControl(const Screen& screen, Control& control, std::vector<MenuEntry>& menu) {
@@ -36,9 +34,10 @@ void AddControl(const Screen& screen, Control& control, std::vector<MenuEntry>& 
   if (const Handler* handler = ClickHandler(control)) {
     const CaptionedControl* const captioned = AsCaptioned(control);
     const std::string caption = captioned == nullptr ? control.Name() : captioned->Caption();
-    if (*handler) menu.push_back({CalledBy(control, caption), "click " + name, Asks::kNothing});
+    if (!*handler) return;
+    menu.push_back({Printable(OfferedAs(control, caption)), "click " + name, Asks::kNothing});
   } else if (const ListBox* list = AsList(control)) {
-    const std::string words = CalledBy(control, NameInFront(screen, control));
+    const std::string words = NameOf(screen, control);
     if (list->ListCount() == 0) return;
     if (list->OnClick || SelectionCounts(control)) {
       menu.push_back({words + ": select", "select " + name, Asks::kItem});
@@ -47,12 +46,11 @@ void AddControl(const Screen& screen, Control& control, std::vector<MenuEntry>& 
       menu.push_back({words + ": double click", "dblclick " + name, Asks::kItem});
     }
   } else if (control.Kind() == ControlKind::kTextBox) {
-    menu.push_back(
-        {CalledBy(control, NameInFront(screen, control)) + ": type", "type " + name, Asks::kText});
+    menu.push_back({NameOf(screen, control) + ": type", "type " + name, Asks::kText});
   } else if (control.Kind() == ControlKind::kComboBox) {
     for (const std::string& item : static_cast<ComboBox&>(control).Items()) {
-      menu.push_back({CalledBy(control, control.Name()) + ": " + item,
-                      "choose " + name + " " + item, Asks::kNothing});
+      menu.push_back(
+          {NameOf(screen, control) + ": " + item, "choose " + name + " " + item, Asks::kNothing});
     }
   } else if (control.Kind() == ControlKind::kTabStrip) {
     const auto& strip = static_cast<TabStrip&>(control);

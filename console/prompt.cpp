@@ -60,7 +60,7 @@ std::vector<MenuEntry> Prompt::MenuOfFront() const {
   std::vector<MenuEntry> menu = MenuOf(*front_);
   for (const Screen* screen : visible_) {
     if (screen == front_) continue;
-    menu.push_back({"Look at: " + Printable(TitleFor(*screen)), kLook + screen->Name(),
+    menu.push_back({"Look at: " + Printable(screen->Title()), kLook + screen->Name(),
                     MenuEntry::Asks::kNothing});
   }
   return menu;

@@ -53,7 +53,11 @@ class CharactersOfTextBox : public QValidator {
 }  // namespace
 
 Binding::Binding(Control& control, QWidget& widget, BindingContext context)
-    : control_(control), widget_(widget), context_(context) {}
+    : control_(control), widget_(widget), context_(context) {
+  widget_.setAccessibleName(Words());
+}
+
+QString Binding::Words() const { return QString::fromUtf8(control_.called().words); }
 
 void Binding::Start() {
   Refresh();
@@ -77,7 +81,14 @@ LabelBinding::LabelBinding(Label& label, QLabel& widget, BindingContext context)
 
 void LabelBinding::Refresh() {
   Binding::Refresh();
-  widget_.setText(Shown(label_.Caption()));
+  const QString caption = Shown(label_.Caption());
+  widget_.setText(caption);
+  // A label offers a screen reader nothing but its name, so the name tells the value too.
+  if (!Words().isEmpty() && !caption.isEmpty()) {
+    widget_.setAccessibleName(Words() + ": " + caption);
+  } else {
+    widget_.setAccessibleName(Words());
+  }
 }
 
 ButtonBinding::ButtonBinding(CaptionedControl& control, const Handler& on_click,
@@ -90,6 +101,9 @@ ButtonBinding::ButtonBinding(CaptionedControl& control, const Handler& on_click,
 void ButtonBinding::Refresh() {
   Binding::Refresh();
   button_.setText(ButtonText(captioned_.Caption(), button_.property("mnemonic").toString()));
+  // The words for a press stand instead of a mark; a caption of some length is told beside them.
+  const QString caption = Shown(captioned_.Caption());
+  if (!Words().isEmpty() && caption.size() > 1) button_.setAccessibleDescription(caption);
 }
 
 ListBinding::ListBinding(ListBox& list, ListView& view, BindingContext context)
@@ -166,8 +180,11 @@ void FrameBinding::Refresh() {
 TabBinding::TabBinding(TabStrip& strip, QTabWidget& tabs, BindingContext context)
     : Binding(strip, tabs, context), strip_(strip), tabs_(tabs) {
   for (std::size_t i = 0; i < strip_.Tabs().size(); ++i) {
-    tabs_.setTabText(static_cast<int>(i), Shown(strip_.Tabs()[i]));
+    const QString tab = Shown(strip_.Tabs()[i]);
+    tabs_.setTabText(static_cast<int>(i), tab);
+    tabs_.widget(static_cast<int>(i))->setAccessibleName(tab);
   }
+  tabs_.tabBar()->setAccessibleName(Words());
   tabs_.installEventFilter(this);
   tabs_.tabBar()->installEventFilter(this);
   connect(&tabs_, &QTabWidget::currentChanged, this,

@@ -43,6 +43,9 @@ class Binding : public QObject, public Control::Observer {
   // Brings the widget to the control's present state.
   virtual void Refresh();
 
+  // What the control is called, for a screen reader.
+  QString Words() const;
+
   Guard& guard() const { return context_.guard; }
   ScreenForm& form() const { return context_.form; }
 

@@ -56,7 +56,7 @@ void SetUpForm(const Screen& screen, ScreenForm& form) {
   const Look* look = LookOf(screen);
   if (look == nullptr) return;
   look->set_up(form);
-  form.setAccessibleName(QString::fromStdString(screen.Caption()));
+  form.setAccessibleName(QString::fromStdString(screen.Title()));
 }
 
 void DecorateScreen(Screen& screen, ScreenForm& form) {

@@ -56,6 +56,7 @@ ScreenWindow::ScreenWindow(Screen& screen, Guard& guard, Stage& stage,
       form_(new ScreenForm(this)) {
   setObjectName("look_window");
   setWindowTitle(QString::fromStdString(screen_.Caption()));
+  setAccessibleName(QString::fromStdString(screen_.Title()));
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   // Window managers keep only dialogs above what opened them.

@@ -22,7 +22,7 @@ void Ticker::ControlChanged(Control& /*control*/) {
 void Ticker::Tick() {
   if (ticking_) return;
   ticking_ = true;
-  guard_.Call([this] { Raise(timer_.OnTick); });
+  guard_.Call([this] { timer_.Tick(); });
   ticking_ = false;
 }
 

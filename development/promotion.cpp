@@ -58,7 +58,7 @@ void CrownChampion(Program& program) {
     // As it stands: 2.5 gives 3.5.
     franchise.Champion.SetCaption(NumberText(LenientNumber(franchise.Champion.Caption()) + 1));
   }
-  program.f_results.Label5.SetCaption(winner);
+  program.f_results.Winner(kTop).SetCaption(winner);
   program.f_results.Champ.SetCaption(winner);
 }
 
@@ -66,10 +66,6 @@ void CrownChampion(Program& program) {
 
 void Franchise::theOffSeason() {
   FResults& results = program_.f_results;
-  const std::array<Label*, kTop> winners = {&results.Label24, &results.Label12, &results.Label20,
-                                            &results.Label8, &results.Label16};
-  const std::array<Label*, kTop> losers = {&results.Label23, &results.Label11, &results.Label19,
-                                           &results.Label7, &results.Label15};
   LeagueMoves moves = PlannedMoves(program_.ordvik, *this);
   moves.WriteDown();
   const auto follow = [this](const std::string& team, std::size_t league) {
@@ -90,15 +86,15 @@ void Franchise::theOffSeason() {
     const std::string winner = TeamAt(*StatRankLists()[league], kWinner);
     const std::string loser = TeamAt(*StatRankLists()[league], kLoser);
     move_up(winner, league);
-    winners[league]->SetCaption(winner);
+    results.Winner(league).SetCaption(winner);
     // Below "Rank F" there is no league: its loser is only named.
     if (league > 0) move_down(loser, league - 1);
-    losers[league]->SetCaption(loser);
+    results.Loser(league).SetCaption(loser);
   }
   CrownChampion(program_);
   const std::string loser = TeamAt(StatRankA, kLoser);
   move_down(loser, kTop - 1);
-  results.Label6.SetCaption(loser);
+  results.Loser(kTop).SetCaption(loser);
   moves.Finish();
 
   CopyTable(program_.desktop, StatRankA, results.List1);

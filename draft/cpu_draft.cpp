@@ -121,11 +121,11 @@ void FDraft::Refill(std::string_view training) {
     const int wanted = kPositions[p] == std::string_view("GO") ? 1 : 2;
     if (players[p] >= wanted) continue;
     ListPair& list = *Pool()[p];
-    const std::string record = list[1].List(0);
+    const std::string record = list.records.List(0);
     tempList.AddItem(program_.hockey_naming.SetField(record, "Training", training));
     AddPick(record);
-    list[1].RemoveItem(0);
-    list[0].RemoveItem(0);
+    list.records.RemoveItem(0);
+    list.shown.RemoveItem(0);
   }
 }
 

@@ -16,27 +16,29 @@ class FDraft : public Screen {
  public:
   explicit FDraft(Program& program);
 
-  TabStrip XTab1{*this, "XTab1", {"Draft"}};
+  TabStrip XTab1{*this, "XTab1", {"Draft"}, Called{"Draft"}};
   Label Label1{*this, "Label1", "Current Rank:"};
-  Label CurRank{*this, "CurRank", "Rank F"};
+  Label CurRank{*this, "CurRank", "Rank F", Called{"Current rank"}};
   Label Label2{*this, "Label2", "Current Team:"};
-  Label CurTeam{*this, "CurTeam", "No one"};
+  Label CurTeam{*this, "CurTeam", "No one", Called{"Current team"}};
   Label Label3{*this, "Label3", "Draft Speed:", Start::kNeverShown};
   ScrollBar HScroll1{*this, "HScroll1", Start::kNeverShown};
   Label Label4{*this, "Label4",
-               "Goalies                    Left Defenders                    Right Defenders"};
-  // The pool. Element 0 of a pair shows the pool lines of the records in element 1, best first.
-  ListPair List1{*this, "List1"};  // "GO"
-  ListPair List2{*this, "List2"};  // "LD"
-  ListPair List3{*this, "List3"};  // "RD"
-  Label Label6{
-      *this, "Label6",
-      "Left Forwards                    Center Forwards                    Right Forwards"};
-  ListPair List4{*this, "List4"};  // "LF"
-  ListPair List5{*this, "List5"};  // "CF"
-  ListPair List6{*this, "List6"};  // "RF"
+               "Goalies                    Left Defenders                    Right Defenders",
+               kColumnHeads};
+  // The pool, best first: `shown` has the pool lines of `records`.
+  ListPair List1{*this, "List1", Called{"Goalies"}};
+  ListPair List2{*this, "List2", Called{"Left Defenders"}};
+  ListPair List3{*this, "List3", Called{"Right Defenders"}};
+  Label Label6{*this, "Label6",
+               "Left Forwards                    Center Forwards                    Right Forwards",
+               kColumnHeads};
+  ListPair List4{*this, "List4", Called{"Left Forwards"}};
+  ListPair List5{*this, "List5", Called{"Center Forwards"}};
+  ListPair List6{*this, "List6", Called{"Right Forwards"}};
   Label Label5{*this, "Label5", "History:"};
-  ListBox Events{*this, "Events"};  // this year's draft, oldest line first
+  ListBox Events{*this, "Events",
+                 Called{"History of the draft"}};  // this year's draft, oldest line first
   Button Command1{*this, "Command1", "New Season", Start::kDisabled};
   ListBox tempList{*this, "tempList", Start::kNeverShown};  // the roster of the team in turn
   FileListBox File1{*this, "File1", Start::kNeverShown};    // the teams of the league in turn
@@ -50,7 +52,7 @@ class FDraft : public Screen {
   static constexpr std::array<const char*, 6> kPositions = {"GO", "LD", "RD", "LF", "CF", "RF"};
   std::array<ListPair*, 6> Pool() { return {&List1, &List2, &List3, &List4, &List5, &List6}; }
   // The pair of POSITION, or nullptr when it is none of the six.
-  ListPair* PoolOf(std::string_view position);
+  ListPair* Pool(std::string_view position);
 
   // draft/pool.cpp
   // Fills LIST with twenty new players of POSITION, as yet without their pool lines.

@@ -8,7 +8,7 @@ FSelectDraft::FSelectDraft(Program& program)
 
 void FDraft::ConnectPicks() {
   for (ListPair* list : Pool()) {
-    (*list)[0].OnDoubleClick = [this, list] { PickFromPool(*list); };
+    list->shown.OnDoubleClick = [this, list] { PickFromPool(*list); };
   }
   Command1.OnClick = [this] { PressNewSeason(); };
   OnMouseDown = [this] { Ordvik::DragWindow(*this); };
@@ -64,21 +64,21 @@ void FDraft::StartPlayerTurn() {
 
 void FDraft::OpenPoolList(const std::string& position) {
   SetPoolEnabled(false);
-  if (ListPair* list = PoolOf(position)) list->SetEnabled(true);
+  if (ListPair* list = Pool(position)) list->SetEnabled(true);
 }
 
 void FDraft::PickFromPool(ListPair& list) {
   if (!AwaitingPick) return;  // in the others' turns the lists are only for browsing
   const Answer answer = program_.desktop.ShowBox(
       {BoxIcon::kQuestion, BoxButtons::kYesNo,
-       "Add this player to your squad?\n" + list[0].List(list[0].ListIndex())});
+       "Add this player to your squad?\n" + list.shown.List(list.shown.ListIndex())});
   if (answer != Answer::kYes) return;
-  const int picked = list[0].ListIndex();
-  const std::string record = list[1].List(picked);
+  const int picked = list.shown.ListIndex();
+  const std::string record = list.records.List(picked);
   AddPick(record);
   tempList.AddItem(record);
-  list[1].RemoveItem(picked);
-  list[0].RemoveItem(picked);
+  list.records.RemoveItem(picked);
+  list.shown.RemoveItem(picked);
   SetPoolEnabled(true);
   AwaitingPick = false;
 }
@@ -94,15 +94,15 @@ void FSelectDraft::ReleaseSelected() {
   draft.AddRelease(draft.ReleasedPlayer);
   // He goes into the pool only after the pick, so the user can't take him back in the same turn.
   const std::string position = HockeyNaming::GetField(draft.ReleasedPlayer, "Position");
-  if (ListPair* list = draft.PoolOf(position)) list->SetEnabled(true);
+  if (ListPair* list = draft.Pool(position)) list->SetEnabled(true);
   Hide();
 }
 
 void FDraft::AddDraftee(std::string& record) {
-  if (ListPair* list = PoolOf(FieldView(record, Field::kPosition))) {
-    (*list)[1].AddItem(record);
-    (*list)[0].Clear();
-    HockeyNaming::SortByOverall((*list)[1]);
+  if (ListPair* list = Pool(FieldView(record, Field::kPosition))) {
+    list->records.AddItem(record);
+    list->shown.Clear();
+    HockeyNaming::SortByOverall(list->records);
     ShowPoolLines(*list);
   }
   record.clear();

@@ -16,7 +16,7 @@ void FResults::ConnectDraftButton() {
   XTab1.OnMouseDown = [this] { Ordvik::DragWindow(*this); };
 }
 
-ListPair* FDraft::PoolOf(std::string_view position) {
+ListPair* FDraft::Pool(std::string_view position) {
   for (std::size_t i = 0; i < kPositions.size(); ++i) {
     if (kPositions[i] == position) return Pool()[i];
   }
@@ -28,9 +28,9 @@ void FDraft::SetPoolEnabled(bool enabled) {
 }
 
 void FDraft::ShowPoolLines(ListPair& list) {
-  const int count = list[1].ListCount();
+  const int count = list.records.ListCount();
   for (int i = 0; i < count; ++i) {
-    list[0].AddItem(PoolLine(list[1].List(i)));
+    list.shown.AddItem(PoolLine(list.records.List(i)));
     program_.desktop.Yield();
   }
 }
@@ -38,12 +38,12 @@ void FDraft::ShowPoolLines(ListPair& list) {
 void FDraft::RollProspects(ListPair& list, const char* position) {
   constexpr int kProspectsOfPosition = 20;
   HockeyNaming& naming = program_.hockey_naming;
-  list[0].Clear();
-  list[1].Clear();
+  list.shown.Clear();
+  list.records.Clear();
   for (int i = 0; i < kProspectsOfPosition; ++i) {
     const std::string name = naming.GenPlayerName();
     naming.GenPlayerRatings(position, true);
-    list[1].AddItem(naming.GeneratedRecord(name, position, "N"));
+    list.records.AddItem(naming.GeneratedRecord(name, position, "N"));
     program_.desktop.Yield();
   }
 }
@@ -56,7 +56,7 @@ void FResults::PressDraft() {
     draft.RollProspects(*draft.Pool()[i], FDraft::kPositions[i]);
   }
   for (ListPair* list : draft.Pool()) {
-    HockeyNaming::SortByOverall((*list)[1]);
+    HockeyNaming::SortByOverall(list->records);
     draft.ShowPoolLines(*list);
   }
   draft.Show();

@@ -19,15 +19,15 @@ class Game : public Screen {
  public:
   explicit Game(Program& program);
 
-  TabStrip XTab1{*this, "XTab1", {"Roster", "Game"}};
+  TabStrip XTab1{*this, "XTab1", {"Roster", "Game"}, Called{"Game"}};
 
   // Tab "Roster".
   Frame Frame1{XTab1.Page(0), "Frame1", "Home"};
-  Label RHome{Frame1, "RHome"};
-  ListBox Line1{Frame1, "Line1"};
+  Label RHome{Frame1, "RHome", "", Called{"Home team"}};
+  ListBox Line1{Frame1, "Line1", Called{"Lead line of the home team", "Lead line:"}};
   Frame Frame3{XTab1.Page(0), "Frame3", "Visitor"};
-  Label RVisitor{Frame3, "RVisitor"};
-  ListBox Line2{Frame3, "Line2"};
+  Label RVisitor{Frame3, "RVisitor", "", Called{"Visiting team"}};
+  ListBox Line2{Frame3, "Line2", Called{"Lead line of the visitor", "Lead line:"}};
   ListBox Line1Stats{*this, "Line1Stats", Start::kNeverShown};  // records of the lead lines
   ListBox Line2Stats{*this, "Line2Stats", Start::kNeverShown};
   ListBox LineList{*this, "LineList", Start::kNeverShown};  // the line with the puck, reversed
@@ -35,36 +35,38 @@ class Game : public Screen {
 
   // Tab "Game".
   Label Label1{XTab1.Page(1), "Label1", "Home:"};
-  Label GHome{XTab1.Page(1), "GHome"};
-  Label Label3{XTab1.Page(1), "Label3", "0"};  // the home team's goals: there is no other score
+  Label GHome{XTab1.Page(1), "GHome", "", Called{"Home team"}};
+  Label Label3{XTab1.Page(1), "Label3", "0", Called{"Goals of the home team", "Goals"}};
   Label Label2{XTab1.Page(1), "Label2", "Visitor:"};
-  Label GVisitor{XTab1.Page(1), "GVisitor"};
-  Label Label4{XTab1.Page(1), "Label4", "0"};          // the visitor's goals
-  ListBox Events{XTab1.Page(1), "Events"};             // the play-by-play, newest on top
-  ProgressBar Period1{XTab1.Page(1), "Period1", 200};  // steps played in the period
-  ProgressBar Period2{XTab1.Page(1), "Period2", 200};
-  ProgressBar Period3{XTab1.Page(1), "Period3", 200};
+  Label GVisitor{XTab1.Page(1), "GVisitor", "", Called{"Visiting team"}};
+  Label Label4{XTab1.Page(1), "Label4", "0", Called{"Goals of the visitor", "Goals"}};
+  ListBox Events{XTab1.Page(1), "Events", Called{"Play-by-play"}};  // newest on top
+  // The steps played in each.
+  ProgressBar Period1{XTab1.Page(1), "Period1", 200, Called{"Period 1", "Period 1"}};
+  ProgressBar Period2{XTab1.Page(1), "Period2", 200, Called{"Period 2", "Period 2"}};
+  ProgressBar Period3{XTab1.Page(1), "Period3", 200, Called{"Period 3", "Period 3"}};
   Timer Timer1{*this, "Timer1", 100};
   Timer Timer2{*this, "Timer2", 100};
   Timer Timer3{*this, "Timer3", 100};
   Button HighButton1{XTab1.Page(1), "HighButton1", "Start"};
   Button HighButton2{XTab1.Page(1), "HighButton2", "Close", Start::kHidden};
-  Label Label5{XTab1.Page(1), "Label5", "x"};   // a close mark, abandons the game
-  Picture Picture1{XTab1.Page(1), "Picture1"};  // the rink
+  Label Label5{XTab1.Page(1), "Label5", "x", Called{"Abandon the game"}};
+  Picture Picture1{XTab1.Page(1), "Picture1", Called{"The rink"}};
   // The Overall of the home team's lead players, on the left half of the rink.
-  Label vGoalie{XTab1.Page(1), "vGoalie", "00"};
-  Label vRDef{XTab1.Page(1), "vRDef", "00"};
-  Label vLDef{XTab1.Page(1), "vLDef", "00"};
-  Label vRFor{XTab1.Page(1), "vRFor", "00"};
-  Label vCenter{XTab1.Page(1), "vCenter", "00"};
-  Label vLFor{XTab1.Page(1), "vLFor", "00"};
+  Label vGoalie{XTab1.Page(1), "vGoalie", "00", Called{"Overall of the home goalie", "Home GO"}};
+  Label vRDef{XTab1.Page(1), "vRDef", "00", Called{"Overall of the home right defender", "RD"}};
+  Label vLDef{XTab1.Page(1), "vLDef", "00", Called{"Overall of the home left defender", "LD"}};
+  Label vRFor{XTab1.Page(1), "vRFor", "00", Called{"Overall of the home right forward", "RF"}};
+  Label vCenter{XTab1.Page(1), "vCenter", "00", Called{"Overall of the home center", "CF"}};
+  Label vLFor{XTab1.Page(1), "vLFor", "00", Called{"Overall of the home left forward", "LF"}};
   // Of the visitor's, on the right half.
-  Label hGoalie{XTab1.Page(1), "hGoalie", "00"};
-  Label hRDef{XTab1.Page(1), "hRDef", "00"};
-  Label hLDef{XTab1.Page(1), "hLDef", "00"};
-  Label hRFor{XTab1.Page(1), "hRFor", "00"};
-  Label hCenter{XTab1.Page(1), "hCenter", "00"};
-  Label hLFor{XTab1.Page(1), "hLFor", "00"};
+  Label hGoalie{XTab1.Page(1), "hGoalie", "00",
+                Called{"Overall of the visiting goalie", "Visitor GO"}};
+  Label hRDef{XTab1.Page(1), "hRDef", "00", Called{"Overall of the visiting right defender", "RD"}};
+  Label hLDef{XTab1.Page(1), "hLDef", "00", Called{"Overall of the visiting left defender", "LD"}};
+  Label hRFor{XTab1.Page(1), "hRFor", "00", Called{"Overall of the visiting right forward", "RF"}};
+  Label hCenter{XTab1.Page(1), "hCenter", "00", Called{"Overall of the visiting center", "CF"}};
+  Label hLFor{XTab1.Page(1), "hLFor", "00", Called{"Overall of the visiting left forward", "LF"}};
   CheckBox CPUPuck{XTab1.Page(1), "CPUPuck", "CPUPuck", Start::kNeverShown};  // nothing reads it
 
   // The state of the match machine. It outlives a game.
@@ -78,6 +80,10 @@ class Game : public Screen {
 
   // True while a franchise game waits for this screen.
   bool FranchiseMatch = false;
+
+  // The goals of TEAM, 1 for home and 2 for the visitor: there is no other score.
+  Label& Goals(int team) { return team == 1 ? Label3 : Label4; }
+  const Label& Goals(int team) const { return team == 1 ? Label3 : Label4; }
 
   // match/watched_periods.cpp
   void ConnectPeriods();

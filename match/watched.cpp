@@ -151,9 +151,9 @@ void Game::ShotStep() {
 }
 
 void Game::Goal() {
-  Label* const score = PuckTeam == 1 ? &Label3 : PuckTeam == 2 ? &Label4 : nullptr;
-  if (score != nullptr) {
-    score->SetCaption(WholeNumberText(LenientNumber(score->Caption()) + 1));
+  if (PuckTeam == 1 || PuckTeam == 2) {
+    Label& score = Goals(PuckTeam);
+    score.SetCaption(WholeNumberText(LenientNumber(score.Caption()) + 1));
   }
   PassesLeft = kFaceOffDue;
   Report({NameOf(PuckCarrier), " SCORES! Assist by: ", PasserName});

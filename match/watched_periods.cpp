@@ -4,7 +4,8 @@
 namespace frostmark {
 
 Game::Game(Program& program)
-    : Screen(program.screens, "Game", "Form3", Border::kNone, OnClose::kEndsProgram),
+    : Screen(program.screens, "Game", "Form3", Border::kNone, OnClose::kEndsProgram,
+             Called{"Game"}),
       program_(program) {}
 
 void Game::ConnectPeriods() {
@@ -59,8 +60,8 @@ void Game::TickPeriod3() {
 // The scores are compared as texts on purpose, so the crowd is told that 9 is more than 10. The
 // standings go by the numbers.
 void Game::AnnounceResult() {
-  const std::string home = Label3.Caption();
-  const std::string visitor = Label4.Caption();
+  const std::string home = Goals(1).Caption();
+  const std::string visitor = Goals(2).Caption();
   Report({"The match has ended in an amazing battle!"});
   if (home > visitor) {
     Report({GHome.Caption(), " beat ", GVisitor.Caption(), " ", home, " to ", visitor});
@@ -77,8 +78,8 @@ void Game::PressClose() {
     Hide();
     return;
   }
-  program_.franchise.Score1 = StrictInt16(Label3.Caption());
-  program_.franchise.Score2 = StrictInt16(Label4.Caption());
+  program_.franchise.Score1 = StrictInt16(Goals(1).Caption());
+  program_.franchise.Score2 = StrictInt16(Goals(2).Caption());
   ShowOwnResult();
   FranchiseMatch = false;
   program_.franchise.Show();
@@ -88,8 +89,8 @@ void Game::PressClose() {
 // As texts again. PlayGame, which has waited for this, soon writes the result anew from the
 // numbers.
 void Game::ShowOwnResult() {
-  const std::string& home = Label3.Caption();
-  const std::string& visitor = Label4.Caption();
+  const std::string& home = Goals(1).Caption();
+  const std::string& visitor = Goals(2).Caption();
   const std::string& user = program_.franchise.TeamName.Caption();
   Label& result = program_.franchise.LooseOrWin;
   if (GHome.Caption() == user) {
@@ -107,7 +108,7 @@ void Game::Abandon() {
   Timer1.Disable();
   Timer2.Disable();
   Timer3.Disable();
-  for (Label* label : {&GVisitor, &GHome, &Label3, &Label4}) label->SetCaption("");
+  for (Label* label : {&GVisitor, &GHome, &Goals(1), &Goals(2)}) label->SetCaption("");
   for (ListBox* list : {&LineList, &DefList, &Events, &Line1, &Line2, &Line1Stats, &Line2Stats}) {
     list->Clear();
   }

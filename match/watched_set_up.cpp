@@ -43,8 +43,8 @@ void HockeyNaming::SetUpMatch(const RecordList& list1, const std::string& name1,
   game.GVisitor.SetCaption(name2);
   game.Events.Clear();
   game.XTab1.SetFront(0);
-  game.Label3.SetCaption("0");
-  game.Label4.SetCaption("0");
+  game.Goals(1).SetCaption("0");
+  game.Goals(2).SetCaption("0");
   game.Line1.Clear();
   game.Line2.Clear();
   game.Line1Stats.Clear();

@@ -17,36 +17,36 @@ class Franchise : public Screen {
  public:
   explicit Franchise(Program& program);
 
-  TabStrip XTab1{*this, "XTab1", {"Main", "Alerts", "Standings", "Roster"}};
+  TabStrip XTab1{*this, "XTab1", {"Main", "Alerts", "Standings", "Roster"}, Called{"Franchise"}};
 
   // Tab "Main".
   Label Label3{XTab1.Page(0), "Label3", "Your Team:"};
-  Label TeamName{XTab1.Page(0), "TeamName"};
+  Label TeamName{XTab1.Page(0), "TeamName", "", Called{"Your team"}};
   Label Label20{XTab1.Page(0), "Label20", "Your Rank:"};
-  Label MyRank{XTab1.Page(0), "MyRank", "Rank F"};
+  Label MyRank{XTab1.Page(0), "MyRank", "Rank F", Called{"Your rank"}};
   Label Label7{XTab1.Page(0), "Label7", "Overall:"};
-  Label Label9{XTab1.Page(0), "Label9", "00"};
+  Label Label9{XTab1.Page(0), "Label9", "00", Called{"Your overall rating"}};
   Label Label11{XTab1.Page(0), "Label11", "Offense:"};
-  Label Label12{XTab1.Page(0), "Label12", "00"};
+  Label Label12{XTab1.Page(0), "Label12", "00", Called{"Your offense rating"}};
   Label Label14{XTab1.Page(0), "Label14", "Defense:"};
-  Label Label15{XTab1.Page(0), "Label15", "00"};
+  Label Label15{XTab1.Page(0), "Label15", "00", Called{"Your defense rating"}};
   Label Label2{XTab1.Page(0), "Label2", "Next week:"};
-  Label NextWeek{XTab1.Page(0), "NextWeek", "Week 1"};
+  Label NextWeek{XTab1.Page(0), "NextWeek", "Week 1", Called{"Next week"}};
   Label Label4{XTab1.Page(0), "Label4", "Opposing Team:"};
-  Label OppTeam{XTab1.Page(0), "OppTeam"};
+  Label OppTeam{XTab1.Page(0), "OppTeam", "", Called{"Opposing team"}};
   Label Label6{XTab1.Page(0), "Label6", "Overall:"};
-  Label OppOverall{XTab1.Page(0), "OppOverall", "00"};
+  Label OppOverall{XTab1.Page(0), "OppOverall", "00", Called{"Opponent's overall rating"}};
   Label Label8{XTab1.Page(0), "Label8", "Offense:"};
-  Label OppOffense{XTab1.Page(0), "OppOffense", "00"};
+  Label OppOffense{XTab1.Page(0), "OppOffense", "00", Called{"Opponent's offense rating"}};
   Label Label10{XTab1.Page(0), "Label10", "Defense:"};
-  Label OppDefense{XTab1.Page(0), "OppDefense", "00"};
+  Label OppDefense{XTab1.Page(0), "OppDefense", "00", Called{"Opponent's defense rating"}};
   Label Label5{XTab1.Page(0), "Label5", "Results from this week:"};
-  Label LooseOrWin{XTab1.Page(0), "LooseOrWin"};
-  Label Label19{XTab1.Page(0), "Label19"};
+  Label LooseOrWin{XTab1.Page(0), "LooseOrWin", "", Called{"Your last result"}};
+  Label Label19{XTab1.Page(0), "Label19", "", Called{"Opponent of your last game"}};
   Label Label21{XTab1.Page(0), "Label21", "Season:"};
-  Label Season{XTab1.Page(0), "Season", "00"};
+  Label Season{XTab1.Page(0), "Season", "00", Called{"Seasons finished"}};
   Label Label22{XTab1.Page(0), "Label22", "Championships:"};
-  Label Champion{XTab1.Page(0), "Champion", "00"};
+  Label Champion{XTab1.Page(0), "Champion", "00", Called{"Championships"}};
   Label Label18{XTab1.Page(0), "Label18", "Simulating...", Start::kHidden};
   Timer Timer1{*this, "Timer1", 1000};  // blinks Label18
   Button HighButton1{XTab1.Page(0), "HighButton1", "Begin"};
@@ -54,28 +54,32 @@ class Franchise : public Screen {
   Button HighButton3{XTab1.Page(0), "HighButton3", "Save"};
   Button Command2{XTab1.Page(0), "Command2", "Sim"};
   Button Command5{XTab1.Page(0), "Command5", "Cancel", Start::kHidden};
-  Button Command6{XTab1.Page(0), "Command6", "Min"};
+  Button Command6{XTab1.Page(0), "Command6", "Min", Called{"Minimize"}};
 
   // Tab "Alerts": the news, newest first.
-  ListBox Alerts{XTab1.Page(1), "Alerts"};
+  ListBox Alerts{XTab1.Page(1), "Alerts", Called{"News"}};
 
   // Tab "Standings": one list of standings lines a league.
-  TabStrip XTab2{
-      XTab1.Page(2), "XTab2", {"Rank F", "Rank E", "Rank D", "Rank C", "Rank B", "Rank A"}};
-  ListBox StatRankF{XTab2.Page(0), "StatRankF"};
-  ListBox StatRankE{XTab2.Page(1), "StatRankE"};
-  ListBox StatRankD{XTab2.Page(2), "StatRankD"};
-  ListBox StatRankC{XTab2.Page(3), "StatRankC"};
-  ListBox StatRankB{XTab2.Page(4), "StatRankB"};
-  ListBox StatRankA{XTab2.Page(5), "StatRankA"};
+  TabStrip XTab2{XTab1.Page(2),
+                 "XTab2",
+                 {"Rank F", "Rank E", "Rank D", "Rank C", "Rank B", "Rank A"},
+                 Called{"Leagues"}};
+  ListBox StatRankF{XTab2.Page(0), "StatRankF", Called{"Standings of Rank F", "Rank F:"}};
+  ListBox StatRankE{XTab2.Page(1), "StatRankE", Called{"Standings of Rank E", "Rank E:"}};
+  ListBox StatRankD{XTab2.Page(2), "StatRankD", Called{"Standings of Rank D", "Rank D:"}};
+  ListBox StatRankC{XTab2.Page(3), "StatRankC", Called{"Standings of Rank C", "Rank C:"}};
+  ListBox StatRankB{XTab2.Page(4), "StatRankB", Called{"Standings of Rank B", "Rank B:"}};
+  ListBox StatRankA{XTab2.Page(5), "StatRankA", Called{"Standings of Rank A", "Rank A:"}};
 
   // Tab "Roster": item i of a shown list is the display line of item i of the hidden one.
   Label Label17{XTab1.Page(3), "Label17", "Main:"};
-  ListBox MainRoster{XTab1.Page(3), "MainRoster"};
+  ListBox MainRoster{XTab1.Page(3), "MainRoster", Called{"Lead line"}};
   Label Label16{XTab1.Page(3), "Label16", "Training:"};
-  ListBox TrainingRoster{XTab1.Page(3), "TrainingRoster"};
-  Button Command3{XTab1.Page(3), "Command3", "v"};
-  Button Command4{XTab1.Page(3), "Command4", "^"};
+  ListBox TrainingRoster{XTab1.Page(3), "TrainingRoster", Called{"Training line"}};
+  Button Command3{XTab1.Page(3), "Command3", "v",
+                  Called{"Move the selected lead player to the training line"}};
+  Button Command4{XTab1.Page(3), "Command4", "^",
+                  Called{"Move the selected training player to the lead line"}};
   ListBox MainList{*this, "MainList", Start::kNeverShown};
   ListBox TrainList{*this, "TrainList", Start::kNeverShown};
 

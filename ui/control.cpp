@@ -9,11 +9,12 @@ Place::Place(Screen& on_screen) : screen(&on_screen) {}
 
 Place::Place(Frame& in_frame) : screen(in_frame.place().screen), frame(&in_frame) {}
 
-Control::Control(Place place, ControlKind kind, std::string name, Start start)
+Control::Control(Place place, ControlKind kind, std::string name, Start start, Called called)
     : place_(place),
       kind_(kind),
       name_(std::move(name)),
       start_(start),
+      called_(called),
       visible_(start != Start::kHidden && start != Start::kNeverShown),
       enabled_(start != Start::kDisabled) {
   place_.screen->Add(*this);

@@ -6,6 +6,13 @@
 
 namespace frostmark {
 
+using Handler = std::function<void()>;
+
+// Runs HANDLER if there is one.
+inline void Raise(const Handler& handler) {
+  if (handler) handler();
+}
+
 class Control;
 class Frame;
 class Screen;
@@ -41,6 +48,20 @@ enum class ControlKind {
   kTimer,
 };
 
+// What a control, or a screen, is where a person does not see its place and its colours: a screen
+// reader says the words, with the caption after them where that is a value of its own; text names
+// by them what can be done. A control whose caption says it all needs none.
+struct Called {
+  // "Your overall rating"; "" when the caption is enough.
+  const char* words = "";
+  // What stands beside the value where a whole screen is drawn as text; "" leaves the control out
+  // of the drawing. Without it lists are headed by the words and a label's value stands alone.
+  const char* in_drawing = nullptr;
+};
+
+// A row of heads over columns: it is read as it stands, and text has heads for its lists.
+inline constexpr Called kColumnHeads{"", ""};
+
 // How a control starts.
 enum class Start {
   kShown,
@@ -66,7 +87,7 @@ class Control {
     virtual void ControlChanged(Control& control) = 0;
   };
 
-  Control(Place place, ControlKind kind, std::string name, Start start);
+  Control(Place place, ControlKind kind, std::string name, Start start, Called called = {});
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
   virtual ~Control() = default;
@@ -77,6 +98,7 @@ class Control {
   // "Startup.HighButton1".
   std::string FullName() const;
   const Place& place() const { return place_; }
+  const Called& called() const { return called_; }
 
   bool Visible() const { return visible_; }
   void SetVisible(bool visible);
@@ -108,11 +130,10 @@ class Control {
   ControlKind kind_;
   std::string name_;
   Start start_;
+  Called called_;
   bool visible_;
   bool enabled_;
   Observer* observer_ = nullptr;
 };
-
-using Handler = std::function<void()>;
 
 }  // namespace frostmark

@@ -63,8 +63,8 @@ std::vector<std::string> FileNames(const std::string& folder) {
 }  // namespace
 
 CaptionedControl::CaptionedControl(Place place, ControlKind kind, std::string name,
-                                   std::string caption, Start start)
-    : Control(place, kind, std::move(name), start), caption_(std::move(caption)) {}
+                                   std::string caption, Start start, Called called)
+    : Control(place, kind, std::move(name), start, called), caption_(std::move(caption)) {}
 
 void CaptionedControl::SetCaption(std::string_view caption) {
   if (caption_ == caption) return;

@@ -13,7 +13,7 @@ namespace frostmark {
 class CaptionedControl : public Control {
  public:
   CaptionedControl(Place place, ControlKind kind, std::string name, std::string caption,
-                   Start start);
+                   Start start, Called called = {});
 
   const std::string& Caption() const { return caption_; }
   void SetCaption(std::string_view caption);
@@ -26,7 +26,12 @@ class Label : public CaptionedControl {
  public:
   Label(Place place, std::string name, std::string caption = "", Start start = Start::kShown)
       : CaptionedControl(place, ControlKind::kLabel, std::move(name), std::move(caption), start) {}
+  Label(Place place, std::string name, std::string caption, Called called)
+      : CaptionedControl(place, ControlKind::kLabel, std::move(name), std::move(caption),
+                         Start::kShown, called) {}
 
+  // What a person's click does.
+  void Click() { Raise(OnClick); }
   Handler OnClick;
 };
 
@@ -34,7 +39,12 @@ class Button : public CaptionedControl {
  public:
   Button(Place place, std::string name, std::string caption, Start start = Start::kShown)
       : CaptionedControl(place, ControlKind::kButton, std::move(name), std::move(caption), start) {}
+  Button(Place place, std::string name, std::string caption, Called called)
+      : CaptionedControl(place, ControlKind::kButton, std::move(name), std::move(caption),
+                         Start::kShown, called) {}
 
+  // What a person's press does.
+  void Click() { Raise(OnClick); }
   Handler OnClick;
 };
 
@@ -54,9 +64,11 @@ class Frame : public CaptionedControl {
 
 class Picture : public Control {
  public:
-  Picture(Place place, std::string name, Start start = Start::kShown)
-      : Control(place, ControlKind::kPicture, std::move(name), start) {}
+  Picture(Place place, std::string name, Called called)
+      : Control(place, ControlKind::kPicture, std::move(name), Start::kShown, called) {}
 
+  // What a person's click does.
+  void Click() { Raise(OnClick); }
   Handler OnClick;
 };
 
@@ -65,9 +77,9 @@ class Picture : public Control {
 class TextBox : public CaptionedControl {
  public:
   // MAX_LENGTH: the most characters that the user can type; 0 is without limit.
-  TextBox(Place place, std::string name, std::string text, int max_length = 0)
+  TextBox(Place place, std::string name, std::string text, Called called, int max_length = 0)
       : CaptionedControl(place, ControlKind::kTextBox, std::move(name), std::move(text),
-                         Start::kShown),
+                         Start::kShown, called),
         max_length_(max_length) {}
 
   const std::string& Text() const { return Caption(); }
@@ -93,9 +105,10 @@ class TextBox : public CaptionedControl {
 // A text with a list to choose it from. Its caption is its text, which need not be an item.
 class ComboBox : public CaptionedControl {
  public:
-  ComboBox(Place place, std::string name, std::string text, std::vector<std::string> items)
+  ComboBox(Place place, std::string name, std::string text, std::vector<std::string> items,
+           Called called)
       : CaptionedControl(place, ControlKind::kComboBox, std::move(name), std::move(text),
-                         Start::kShown),
+                         Start::kShown, called),
         items_(std::move(items)) {}
 
   const std::string& Text() const { return Caption(); }
@@ -111,6 +124,8 @@ class ListBox : public Control, public RecordList {
  public:
   ListBox(Place place, std::string name, Start start = Start::kShown)
       : ListBox(place, ControlKind::kListBox, std::move(name), start) {}
+  ListBox(Place place, std::string name, Called called)
+      : ListBox(place, ControlKind::kListBox, std::move(name), Start::kShown, called) {}
 
   Handler OnClick;
   Handler OnDoubleClick;
@@ -124,27 +139,24 @@ class ListBox : public Control, public RecordList {
   void SetControlObserver(Control::Observer* observer) { Control::SetObserver(observer); }
 
  protected:
-  ListBox(Place place, ControlKind kind, std::string name, Start start)
-      : Control(place, kind, std::move(name), start) {}
+  ListBox(Place place, ControlKind kind, std::string name, Start start, Called called = {})
+      : Control(place, kind, std::move(name), start, called) {}
 };
 
-// Two lists of one name, told apart by an element index: by custom element 0 is shown and element 1
-// holds the records behind it, item for item.
+// Two lists of one name, told apart by an element index: element 0, "List1(0)", is shown, and
+// element 1 holds the records of its lines, item for item.
 class ListPair {
  public:
-  ListPair(Place place, const std::string& name)
-      : shown_(place, name + "(0)"), records_(place, name + "(1)", Start::kNeverShown) {}
+  ListPair(Place place, const std::string& name, Called called)
+      : shown(place, name + "(0)", called), records(place, name + "(1)", Start::kNeverShown) {}
 
-  ListBox& operator[](int element) { return element == 0 ? shown_ : records_; }
-  const ListBox& operator[](int element) const { return element == 0 ? shown_ : records_; }
   void SetEnabled(bool enabled) {
-    shown_.SetEnabled(enabled);
-    records_.SetEnabled(enabled);
+    shown.SetEnabled(enabled);
+    records.SetEnabled(enabled);
   }
 
- private:
-  ListBox shown_;
-  ListBox records_;
+  ListBox shown;
+  ListBox records;
 };
 
 // The listing of a folder: the names of all its files, without those of folders, in alphabetical
@@ -153,6 +165,8 @@ class FileListBox : public ListBox {
  public:
   FileListBox(Place place, std::string name, Start start = Start::kShown)
       : ListBox(place, ControlKind::kFileListBox, std::move(name), start) {}
+  FileListBox(Place place, std::string name, Called called)
+      : ListBox(place, ControlKind::kFileListBox, std::move(name), Start::kShown, called) {}
 
   const std::string& Path() const { return path_; }
   // Reads the folder PATH. A folder that cannot be read is an empty one.
@@ -164,8 +178,8 @@ class FileListBox : public ListBox {
 
 class TabStrip : public Control {
  public:
-  TabStrip(Place place, std::string name, std::vector<std::string> tabs)
-      : Control(place, ControlKind::kTabStrip, std::move(name), Start::kShown),
+  TabStrip(Place place, std::string name, std::vector<std::string> tabs, Called called)
+      : Control(place, ControlKind::kTabStrip, std::move(name), Start::kShown, called),
         tabs_(std::move(tabs)) {}
 
   const std::vector<std::string>& Tabs() const { return tabs_; }
@@ -187,8 +201,9 @@ class TabStrip : public Control {
 class ProgressBar : public Control {
  public:
   // VALUE runs from 0 to MAX.
-  ProgressBar(Place place, std::string name, int max)
-      : Control(place, ControlKind::kProgressBar, std::move(name), Start::kShown), max_(max) {}
+  ProgressBar(Place place, std::string name, int max, Called called)
+      : Control(place, ControlKind::kProgressBar, std::move(name), Start::kShown, called),
+        max_(max) {}
 
   int Max() const { return max_; }
   int Value() const { return value_; }
@@ -213,15 +228,12 @@ class Timer : public Control {
         interval_ms_(interval_ms) {}
 
   int IntervalMs() const { return interval_ms_; }
+  // What the clock does at the end of an interval.
+  void Tick() { Raise(OnTick); }
   Handler OnTick;
 
  private:
   int interval_ms_;
 };
-
-// Runs HANDLER if there is one.
-inline void Raise(const Handler& handler) {
-  if (handler) handler();
-}
 
 }  // namespace frostmark

@@ -11,12 +11,13 @@ Screen* ScreenList::Find(std::string_view name) const {
 }
 
 Screen::Screen(ScreenList& screens, std::string name, std::string caption, Border border,
-               OnClose on_close)
+               OnClose on_close, Called called)
     : screens_(screens),
       name_(std::move(name)),
       caption_(std::move(caption)),
       border_(border),
-      on_close_(on_close) {
+      on_close_(on_close),
+      called_(called) {
   screens_.all_.push_back(this);
 }
 

@@ -54,14 +54,17 @@ class Screen {
   // A screen without a frame has no title bar; its caption then only names it.
   enum class Border { kTitleBar, kNone };
 
+  // CALLED is for a screen whose caption says nothing.
   Screen(ScreenList& screens, std::string name, std::string caption, Border border,
-         OnClose on_close);
+         OnClose on_close, Called called = {});
   Screen(const Screen&) = delete;
   Screen& operator=(const Screen&) = delete;
   virtual ~Screen() = default;
 
   const std::string& Name() const { return name_; }
   const std::string& Caption() const { return caption_; }
+  // The caption, or what says more where a title is heard or read.
+  std::string Title() const { return *called_.words != '\0' ? called_.words : caption_; }
   Border border() const { return border_; }
   OnClose on_close() const { return on_close_; }
   // Whether it lies beside a main screen, and is not one of those that take turns.
@@ -99,6 +102,7 @@ class Screen {
   std::string caption_;
   Border border_;
   OnClose on_close_;
+  Called called_;
   bool visible_ = false;
   bool minimized_ = false;
   std::vector<Control*> controls_;

@@ -50,7 +50,7 @@ bool TimerBoard::TickOne() {
   entry->due += interval;
   {
     const Ticking ticking(*entry);
-    Raise(entry->timer->OnTick);
+    entry->timer->Tick();
   }
   // Ticks that were missed meanwhile are not made up for.
   if (entry->running && entry->due <= now_() - interval) entry->due = now_() + interval;

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QAccessible>
 #include <QSet>
 #include <QTabBar>
 #include <QTabWidget>
@@ -52,24 +51,6 @@ TEST_F(Forms, EveryNamedWidgetHasItsControl) {
       const QString name = widget->objectName();
       if (name.isEmpty() || name.startsWith("look_") || IsOwnPart(*widget)) continue;
       EXPECT_TRUE(names.contains(name)) << screen->Name() << "." << name.toStdString();
-    }
-  }
-}
-
-TEST_F(Forms, EveryWidgetCanBeReadAloud) {
-  for (const Screen* screen : game_.program().screens.All()) {
-    for (const Control* control : screen->Controls()) {
-      if (!Binder::NeedsWidget(*control)) continue;
-      auto* widget = game_.Window(*screen).form().findChild<QWidget*>(WidgetName(*control));
-      ASSERT_NE(widget, nullptr) << control->FullName();
-      QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(widget);
-      ASSERT_NE(spoken, nullptr) << control->FullName();
-      // A label that has no text yet says nothing yet.
-      if (control->Kind() == ControlKind::kLabel &&
-          static_cast<const Label*>(control)->Caption().empty() && widget->focusPolicy() == 0) {
-        continue;
-      }
-      EXPECT_FALSE(spoken->text(QAccessible::Name).isEmpty()) << control->FullName();
     }
   }
 }

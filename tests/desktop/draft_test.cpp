@@ -28,8 +28,8 @@ class DraftInWindows : public testing::Test {
     game_.StartFranchise();
     game_.desktop().guard().Call([this] {
       Franchise& franchise = game_.program().franchise;
-      Raise(franchise.Command1.OnClick);
-      Raise(franchise.HighButton1.OnClick);
+      franchise.Command1.Click();
+      franchise.HighButton1.Click();
     });
     Settle();
   }
@@ -98,7 +98,7 @@ TEST_F(DraftInWindows, TheUsersTurnByMouse) {
     person.ClickInBox("Yes");
     const auto pick = [this, &picked] {
       ExpectOnlyTheOpenListLit();
-      picked = (*draft().Pool()[static_cast<std::size_t>(OpenList())])[0].List(2);
+      picked = draft().Pool()[static_cast<std::size_t>(OpenList())]->shown.List(2);
       Person::DoubleClickRow(List(draft(), kPoolLists[static_cast<std::size_t>(OpenList())]), 2);
     };
     person.When(
@@ -178,10 +178,10 @@ TEST_F(DraftInWindows, ADoubleClickOutOfTurnIsNoPickAndTheHistoryFollows) {
           QListView& events = List(draft(), "Events");
           const QModelIndex last = events.model()->index(events.model()->rowCount() - 1, 0);
           EXPECT_TRUE(events.viewport()->rect().contains(events.visualRect(last)));
-          const int before = draft().List1[0].ListCount();
+          const int before = draft().List1.shown.ListCount();
           Person::DoubleClickRow(List(draft(), "List1_0"), 0);
           EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-          EXPECT_EQ(draft().List1[0].ListCount(), before);
+          EXPECT_EQ(draft().List1.shown.ListCount(), before);
         });
     person.When(
         "the user's turn", [this] { return ChoosesWhomToLetGo(); },

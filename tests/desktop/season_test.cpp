@@ -43,7 +43,7 @@ class SeasonInWindows : public testing::Test {
 
   // Lets the periods of a match run through at once, as often as one is on.
   static void RunPeriod(Timer& timer) {
-    while (timer.Enabled()) Raise(timer.OnTick);
+    while (timer.Enabled()) timer.Tick();
   }
   bool MatchIsOn() {
     return match().Visible() && match().HighButton1.Visible() &&

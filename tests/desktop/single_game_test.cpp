@@ -36,7 +36,7 @@ class SingleGame : public testing::Test {
   // The periods go by themselves in real time; here they run through at once.
   static void RunPeriod(Timer& timer) {
     ASSERT_TRUE(timer.Enabled());
-    while (timer.Enabled()) Raise(timer.OnTick);
+    while (timer.Enabled()) timer.Tick();
     Settle();
   }
 

@@ -42,7 +42,7 @@ class EndlessUser : public HeadlessDesktop {
     Franchise& franchise = program_->franchise;
     if (franchise.NextWeek.Caption() == "Week 10") franchise.NextWeek.SetCaption("Week 1");
     until_ = std::to_string(std::stoi(franchise.NextWeek.Caption().substr(5)) + 1);
-    Raise(franchise.Command2.OnClick);
+    franchise.Command2.Click();
     Save();
   }
 
@@ -54,15 +54,15 @@ class EndlessUser : public HeadlessDesktop {
     } else if (draft.AwaitingPick) {
       Pick();
     } else if (program_->f_results.Visible()) {
-      Raise(program_->f_results.Command1.OnClick);
+      program_->f_results.Command1.Click();
     } else if (draft.Visible() && draft.Command1.Enabled()) {
-      Raise(draft.Command1.OnClick);
+      draft.Command1.Click();
       Say("year");
       if (--years_ == 0) std::_Exit(EXIT_SUCCESS);
     } else if (franchise.Visible() && franchise.HighButton1.Enabled()) {
       MendLineUp();
-      Raise(franchise.Command1.OnClick);
-      Raise(franchise.HighButton1.OnClick);
+      franchise.Command1.Click();
+      franchise.HighButton1.Click();
     } else {
       throw std::logic_error("nothing is left to do");
     }
@@ -75,7 +75,7 @@ class EndlessUser : public HeadlessDesktop {
   void Save() {
     const std::string week = program_->franchise.NextWeek.Caption();
     Say("save " + week);
-    Raise(program_->franchise.HighButton3.OnClick);
+    program_->franchise.HighButton3.Click();
     Say("saved " + week);
   }
 
@@ -90,14 +90,14 @@ class EndlessUser : public HeadlessDesktop {
     for (const char* position : FDraft::kPositions) {
       if (stands_on(franchise.MainList, position) >= 0) continue;
       franchise.TrainingRoster.Select(stands_on(franchise.TrainList, position));
-      Raise(franchise.Command4.OnClick);
+      franchise.Command4.Click();
     }
   }
 
   void Pick() {
     for (ListPair* list : program_->f_draft.Pool()) {
-      if (!(*list)[0].Enabled()) continue;
-      (*list)[0].DoubleClick(0);
+      if (!list->shown.Enabled()) continue;
+      list->shown.DoubleClick(0);
       return;
     }
   }
@@ -114,7 +114,7 @@ void Play(const std::string& folder, const std::string& mode, int years) {
   user.Play(program);
   user.EndAfter(years);
   program.Start();
-  Raise(program.startup.HighButton5.OnClick);
+  program.startup.HighButton5.Click();
   if (!program.franchise.Visible()) throw std::logic_error("there is nothing to take up");
   Say("ready");
   while (true) {

@@ -133,11 +133,11 @@ void RandomUser::ActOnControl(Control& control) {
   Note(control.FullName());
   switch (control.Kind()) {
     case ControlKind::kLabel:
-      return Raise(static_cast<Label&>(control).OnClick);
+      return static_cast<Label&>(control).Click();
     case ControlKind::kButton:
-      return Raise(static_cast<Button&>(control).OnClick);
+      return static_cast<Button&>(control).Click();
     case ControlKind::kPicture:
-      return Raise(static_cast<Picture&>(control).OnClick);
+      return static_cast<Picture&>(control).Click();
     case ControlKind::kListBox:
     case ControlKind::kFileListBox:
       return ActOnList(static_cast<ListBox&>(control));

@@ -9,15 +9,15 @@ void DoNew(Replay& replay) {
   replay.Do(
       "New",
       [](Program& program) {
-        if (!program.startup.HighButton4.Visible()) Raise(program.startup.HighButton2.OnClick);
-        Raise(program.startup.HighButton4.OnClick);
+        if (!program.startup.HighButton4.Visible()) program.startup.HighButton2.Click();
+        program.startup.HighButton4.Click();
       },
       [](reference::ReferenceGame& rules) { rules.PressNew(); });
 }
 
 void DoGenerate(Replay& replay) {
   replay.Do(
-      "Generate", [](Program& program) { Raise(program.startup.HighButton7.OnClick); },
+      "Generate", [](Program& program) { program.startup.HighButton7.Click(); },
       [](reference::ReferenceGame& rules) { rules.PressGenerate(); });
 }
 
@@ -27,7 +27,7 @@ void DoCreateTeam(Replay& replay, const std::string& city, const std::string& ni
       [city, nickname](Program& program) {
         program.startup.Text1.Type(city);
         program.startup.Text2.Type(nickname);
-        Raise(program.startup.HighButton6.OnClick);
+        program.startup.HighButton6.Click();
       },
       [city, nickname](reference::ReferenceGame& rules) {
         rules.PressBeginOfPanel(city, nickname);
@@ -36,20 +36,20 @@ void DoCreateTeam(Replay& replay, const std::string& city, const std::string& ni
 
 void DoBegin(Replay& replay) {
   replay.Do(
-      "Begin", [](Program& program) { Raise(program.franchise.HighButton1.OnClick); },
+      "Begin", [](Program& program) { program.franchise.HighButton1.Click(); },
       [](reference::ReferenceGame& rules) { rules.PressBegin(); });
 }
 
 void DoSim(Replay& replay, const std::string& until) {
   replay.Answer(until);
   replay.Do(
-      "Sim until " + until, [](Program& program) { Raise(program.franchise.Command2.OnClick); },
+      "Sim until " + until, [](Program& program) { program.franchise.Command2.Click(); },
       [](reference::ReferenceGame& rules) { rules.PressSim(); });
 }
 
 void DoSave(Replay& replay) {
   replay.Do(
-      "Save", [](Program& program) { Raise(program.franchise.HighButton3.OnClick); },
+      "Save", [](Program& program) { program.franchise.HighButton3.Click(); },
       [](reference::ReferenceGame& rules) { rules.SaveGame(); });
 }
 
@@ -57,21 +57,21 @@ void DoLoad(Replay& replay) {
   replay.Do(
       "Load",
       [](Program& program) {
-        Raise(program.startup.HighButton2.OnClick);
-        Raise(program.startup.HighButton5.OnClick);
+        program.startup.HighButton2.Click();
+        program.startup.HighButton5.Click();
       },
       [](reference::ReferenceGame& rules) { rules.PressLoad(); });
 }
 
 void DoDraft(Replay& replay) {
   replay.Do(
-      "Draft", [](Program& program) { Raise(program.f_results.Command1.OnClick); },
+      "Draft", [](Program& program) { program.f_results.Command1.Click(); },
       [](reference::ReferenceGame& rules) { rules.PressDraft(); });
 }
 
 void DoNewSeason(Replay& replay) {
   replay.Do(
-      "New Season", [](Program& program) { Raise(program.f_draft.Command1.OnClick); },
+      "New Season", [](Program& program) { program.f_draft.Command1.Click(); },
       [](reference::ReferenceGame& rules) { rules.PressNewSeason(); });
 }
 
@@ -105,12 +105,12 @@ std::vector<Move> Mend(Franchise& desk) {
     while (CountAt(desk.MainList, position) > 1) {
       moves.push_back({true, LastAt(desk.MainList, position)});
       desk.MainRoster.Select(moves.back().selected);
-      Raise(desk.Command3.OnClick);
+      desk.Command3.Click();
     }
     if (CountAt(desk.MainList, position) == 1) continue;
     moves.push_back({false, LastAt(desk.TrainList, position)});
     desk.TrainingRoster.Select(moves.back().selected);
-    Raise(desk.Command4.OnClick);
+    desk.Command4.Click();
   }
   return moves;
 }
@@ -131,7 +131,7 @@ void DoMendLineUp(Replay& replay) {
 
 void DoTesting(Replay& replay) {
   replay.Do(
-      "Testing", [](Program& program) { Raise(program.franchise.Command1.OnClick); },
+      "Testing", [](Program& program) { program.franchise.Command1.Click(); },
       [](reference::ReferenceGame& rules) { rules.PressTesting(); });
 }
 

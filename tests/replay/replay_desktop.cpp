@@ -48,9 +48,9 @@ bool ReplayDesktop::WatchGame() {
   if (instead_of_watching) {
     instead_of_watching();
   } else if (game.HighButton1.OnView()) {
-    Raise(game.HighButton1.OnClick);
+    game.HighButton1.Click();
   } else if (game.HighButton2.OnView()) {
-    Raise(game.HighButton2.OnClick);
+    game.HighButton2.Click();
   } else {
     HeadlessDesktop::Wait();
   }
@@ -65,8 +65,8 @@ bool ReplayDesktop::TakeDraftTurn() {
     return true;
   }
   for (ListPair* pool : draft.Pool()) {
-    if (!(*pool)[0].Enabled()) continue;
-    picks.push_back(DoubleClickSomewhere((*pool)[0]));
+    if (!pool->shown.Enabled()) continue;
+    picks.push_back(DoubleClickSomewhere(pool->shown));
     return true;
   }
   throw std::logic_error("the draft waits for the user and opens no list");

@@ -102,7 +102,7 @@ TEST_P(TroubleReplay, SimAnswers) {
   for (const char* answer : {"", "x", "1", "-3", "1.9", "3.9", "3", "3.5"}) DoSim(replay, answer);
   DoTesting(replay);
   replay.Do(
-      "Sim at the off-season", [](Program& program) { Raise(program.franchise.Command2.OnClick); },
+      "Sim at the off-season", [](Program& program) { program.franchise.Command2.Click(); },
       [](reference::ReferenceGame& rules) { rules.PressSim(); });
   replay.Run();
 }
@@ -132,7 +132,7 @@ TEST_P(TroubleReplay, ALineUpWithoutItsCentre) {
       "the centre's way to training",
       [](Program& program) {
         program.franchise.MainRoster.Select(4);
-        Raise(program.franchise.Command3.OnClick);
+        program.franchise.Command3.Click();
       },
       [](reference::ReferenceGame& rules) { rules.PressToTraining(4); });
   DoBegin(replay);
@@ -153,9 +153,9 @@ TEST_P(TroubleReplay, ASimRunCancelled) {
         }
         replay.desktop().AtYield([&program] {
           EXPECT_TRUE(program.franchise.Command5.Visible());
-          Raise(program.franchise.Command5.OnClick);
+          program.franchise.Command5.Click();
         });
-        Raise(program.franchise.Command2.OnClick);
+        program.franchise.Command2.Click();
       },
       [](reference::ReferenceGame& rules) {
         rules.cancels = true;
@@ -167,12 +167,12 @@ TEST_P(TroubleReplay, ASimRunCancelled) {
 
 void SetUpAgainstItself(Program& program) {
   FStartGame& screen = program.f_start_game;
-  Raise(program.startup.HighButton1.OnClick);
+  program.startup.HighButton1.Click();
   screen.List3.Select(3);
   screen.File1.Select(1);
   screen.List4.Select(3);
   screen.File2.Select(1);
-  Raise(screen.HighButton1.OnClick);
+  screen.HighButton1.Click();
 }
 
 // The game that waits for its end goes on at once with the scores of the one before.
@@ -183,9 +183,9 @@ TEST_P(TroubleReplay, AFranchiseGameLeftForASingleGame) {
   const std::string team = TeamOf("Rank C", 1);
   replay.desktop().instead_of_watching = [this] {
     Program& program = replay.program();
-    Raise(program.game.HighButton1.OnClick);
+    program.game.HighButton1.Click();
     replay.desktop().PassTime(std::chrono::milliseconds(100 * 50));
-    Raise(program.game.Label5.OnClick);
+    program.game.Label5.Click();
     EXPECT_TRUE(program.game.FranchiseMatch);
     SetUpAgainstItself(program);
   };

@@ -25,12 +25,12 @@ void QueueSetUp(Replay& replay) {
       "the set-up of a single game",
       [](Program& program) {
         FStartGame& screen = program.f_start_game;
-        Raise(program.startup.HighButton1.OnClick);
+        program.startup.HighButton1.Click();
         screen.List3.Select(0);
         screen.File1.Select(0);
         screen.List4.Select(5);
         screen.File2.Select(0);
-        Raise(screen.HighButton1.OnClick);
+        screen.HighButton1.Click();
       },
       [](reference::ReferenceGame& rules) {
         reference::Lines& home = rules.lists["FStartGame.List1"];
@@ -47,7 +47,7 @@ void QueueSetUp(Replay& replay) {
 void QueuePeriod(Replay& replay, int period) {
   const std::string name = "period " + std::to_string(period);
   replay.Do(
-      "the start of " + name, [](Program& program) { Raise(program.game.HighButton1.OnClick); },
+      "the start of " + name, [](Program& program) { program.game.HighButton1.Click(); },
       [](reference::ReferenceGame& rules) { rules.PressStart(); });
   for (int tick = 1; tick <= 201; ++tick) {
     replay.Do(
@@ -64,7 +64,7 @@ void QueueGame(Replay& replay) {
 
 void QueueClose(Replay& replay) {
   replay.Do(
-      "Close", [](Program& program) { Raise(program.game.HighButton2.OnClick); },
+      "Close", [](Program& program) { program.game.HighButton2.Click(); },
       [](reference::ReferenceGame& rules) { rules.PressCloseOfGame(); });
 }
 

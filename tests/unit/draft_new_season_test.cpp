@@ -14,7 +14,7 @@ class NewSeasonTest : public GameFixture {
     program().f_draft.Show();
     program().f_draft.Command1.Enable();
   }
-  void NewSeason() { Raise(program().f_draft.Command1.OnClick); }
+  void NewSeason() { program().f_draft.Command1.Click(); }
 };
 
 TEST_F(NewSeasonTest, ItHandsTheGameBackAndSaves) {
@@ -25,7 +25,7 @@ TEST_F(NewSeasonTest, ItHandsTheGameBackAndSaves) {
   franchise().OppOverall.SetCaption("12");
   franchise().LooseOrWin.SetCaption("You won 3 - 2");
   franchise().StatRankB.SetList(0, "(3-1-0) B0 Wolves");
-  program().f_draft.List1[1].AddItem("left in the pool");
+  program().f_draft.List1.records.AddItem("left in the pool");
   program().f_draft.Events.AddItem("history");
   NewSeason();
   EXPECT_EQ(franchise().NextWeek.Caption(), "Week 1");
@@ -45,7 +45,7 @@ TEST_F(NewSeasonTest, ItHandsTheGameBackAndSaves) {
   EXPECT_EQ(ReadLines(world.SettingsPath("StatRankB.fmk"))[0], "(0-0-0) B0 Wolves");
   // The draft's history and what is left of the pool stay until the next draft.
   EXPECT_EQ(program().f_draft.Events.ListCount(), 1);
-  EXPECT_EQ(program().f_draft.List1[1].ListCount(), 1);
+  EXPECT_EQ(program().f_draft.List1.records.ListCount(), 1);
 }
 
 TEST_F(NewSeasonTest, ItSavesWhenTheGameIsHandedBack) {
@@ -58,7 +58,7 @@ TEST_F(NewSeasonTest, ItSavesWhenTheGameIsHandedBack) {
     EXPECT_TRUE(other.franchise.Visible());
     EXPECT_EQ(other.franchise.TrainingRoster.ListCount(), 5);
   };
-  Raise(other.f_draft.Command1.OnClick);
+  other.f_draft.Command1.Click();
   EXPECT_EQ(watchful.Boxes().size(), 1U);
 }
 

@@ -167,7 +167,7 @@ TEST_F(PicksTest, ASingleClickOnlySelects) {
   Roster(RosterOfAges(Ages(11, 30)));
   Wait([&] {
     choice().List1.Select(4);
-    draft().List1[0].Select(2);
+    draft().List1.shown.Select(2);
     EXPECT_TRUE(desktop().Boxes().empty());
   });
 }
@@ -177,8 +177,8 @@ TEST_F(PicksTest, APickEndsTheTurn) {
   Roster(roster);
   const Lines pool = Pool("LD");
   Turn([&] {
-    DoubleClick(choice().List1, 7, "yes");    // an LD of the training line
-    DoubleClick(draft().List2[0], 3, "yes");  // any of them, not only the first
+    DoubleClick(choice().List1, 7, "yes");       // an LD of the training line
+    DoubleClick(draft().List2.shown, 3, "yes");  // any of them, not only the first
     ExpectQuestion("Add this player to your squad?\nLD Rookie 3 67/20");
     EXPECT_EQ(OpenLists().size(), 6U);
     EXPECT_EQ(Pool("LD"), (Lines{pool[0], pool[1], pool[2], pool[4]}));
@@ -203,7 +203,7 @@ TEST_F(PicksTest, ANoAtThePickChangesNothing) {
     DoubleClick(choice().List1, 0, "yes");
     const Lines pool = Pool("GO");
     const Lines roster = ItemsOf(draft().tempList);
-    DoubleClick(draft().List1[0], 0, "no");
+    DoubleClick(draft().List1.shown, 0, "no");
     EXPECT_EQ(Pool("GO"), pool);
     EXPECT_EQ(ItemsOf(draft().tempList), roster);
     EXPECT_EQ(OpenLists(), Lines{"List1(0)"});
@@ -228,7 +228,7 @@ TEST_F(PicksTest, ARetirementOfTheUsersOpensItsListAtOnce) {
     EXPECT_EQ(OpenLists(), Lines{"List2(0)"});
     EXPECT_EQ(Events(), Lines{"(LD) Old 2 has retired from A Team at 31 years old"});
     EXPECT_EQ(draft().tempList.ListCount(), 10);
-    DoubleClick(draft().List2[0], 0, "yes");
+    DoubleClick(draft().List2.shown, 0, "yes");
   });
   EXPECT_EQ(draft().ReleasedPlayer, "");
   EXPECT_EQ(Pool("LD").size(), 4U);  // who retires does not come back
@@ -267,7 +267,7 @@ TEST_F(PicksTest, OutOfTurnADoubleClickDoesNothing) {
     ASSERT_FALSE(draft().AwaitingPick);
     EXPECT_EQ(OpenLists().size(), 6U);
     const Lines roster = ItemsOf(draft().tempList);
-    for (ListPair* list : draft().Pool()) (*list)[0].DoubleClick(0);
+    for (ListPair* list : draft().Pool()) list->shown.DoubleClick(0);
     EXPECT_TRUE(desktop().Boxes().empty());
     EXPECT_EQ(ItemsOf(draft().tempList), roster);
     EXPECT_EQ(Pool("GO").size(), 5U);
@@ -303,7 +303,7 @@ TEST_F(PicksTest, ExitFromBehindTheWaitingDraftEndsTheProgram) {
   for (int wait = 0; wait < 4; ++wait) SecondPasses();
   desktop().AtWait([this] {
     ASSERT_TRUE(draft().AwaitingPick);
-    Raise(startup().HighButton3.OnClick);
+    startup().HighButton3.Click();
   });
   EXPECT_THROW(draft().RunDraft(), ProgramEnded);
   EXPECT_EQ(ReadLines(PathOf("Rank B")), roster);
@@ -320,7 +320,7 @@ TEST_F(PicksTest, AddDrafteePutsHimInHisPlaceAndForgetsHim) {
   EXPECT_EQ(best, "");
   EXPECT_EQ(Pool("CF").size(), 6U);
   EXPECT_EQ(Pool("CF")[0], record);
-  EXPECT_EQ(draft().List5[0].List(0), PoolLine(record));
+  EXPECT_EQ(draft().List5.shown.List(0), PoolLine(record));
   ExpectPoolInStep();
   EXPECT_EQ(desktop().Yields() - yields, 6);
 

@@ -14,7 +14,7 @@ class DraftPoolTest : public DraftScene {
   // Presses "Draft" and stops at the first wait of the first turn.
   void RollPool() {
     desktop().AtWait([] { throw Stopped(); });
-    EXPECT_THROW(Raise(program().f_results.Command1.OnClick), Stopped);
+    EXPECT_THROW(program().f_results.Command1.Click(), Stopped);
   }
 };
 
@@ -55,7 +55,7 @@ TEST_F(DraftPoolTest, AProspectIsMadeOfSevenRolls) {
   // The last of the lists can be drawn and the first can't.
   EXPECT_EQ(goalies[0], "Alonso Brockma,GO,93,94,93,92,91,24,N");
   EXPECT_EQ(goalies[19], "John Johnson,GO,65,65,65,65,65,18,N");
-  EXPECT_EQ(draft().List1[0].List(0), "Alonso Brockma 93/24");
+  EXPECT_EQ(draft().List1.shown.List(0), "Alonso Brockma 93/24");
   // Doubles stay.
   EXPECT_EQ(goalies[1], goalies[2]);
 }
@@ -72,25 +72,25 @@ TEST_F(DraftPoolTest, TheListsAreSortedBestFirst) {
 }
 
 TEST_F(DraftPoolTest, ThePoolIsShownWhenAllOfItIsRolled) {
-  for (ListPair* list : draft().Pool()) (*list)[0].AddItem("of last year");
+  for (ListPair* list : draft().Pool()) list->shown.AddItem("of last year");
   draft().AddRetirement("x");
   for (int player = 1; player <= 120; ++player) {
     desktop().AtYield([this, player] {
       EXPECT_EQ(draft().Events.ListCount(), 0);
       const std::size_t at = static_cast<std::size_t>((player - 1) / 20);
       for (std::size_t p = 0; p <= at; ++p) {
-        EXPECT_EQ((*draft().Pool()[p])[0].ListCount(), 0);
-        EXPECT_EQ((*draft().Pool()[p])[1].ListCount(), p < at ? 20 : (player - 1) % 20 + 1);
+        EXPECT_EQ(draft().Pool()[p]->shown.ListCount(), 0);
+        EXPECT_EQ(draft().Pool()[p]->records.ListCount(), p < at ? 20 : (player - 1) % 20 + 1);
       }
       for (std::size_t p = at + 1; p < 6; ++p) {
-        EXPECT_EQ((*draft().Pool()[p])[0].ListCount(), 6);  // not yet cleared
+        EXPECT_EQ(draft().Pool()[p]->shown.ListCount(), 6);  // not yet cleared
       }
     });
   }
   for (int line = 1; line <= 120; ++line) {
     desktop().AtYield([this, line] {
       int shown = 0;
-      for (ListPair* list : draft().Pool()) shown += (*list)[0].ListCount();
+      for (ListPair* list : draft().Pool()) shown += list->shown.ListCount();
       EXPECT_EQ(shown, line);
       EXPECT_FALSE(draft().Visible());
       EXPECT_TRUE(program().f_results.Visible());
@@ -102,7 +102,7 @@ TEST_F(DraftPoolTest, ThePoolIsShownWhenAllOfItIsRolled) {
     EXPECT_EQ(desktop().Yields(), 240);
     throw Stopped();
   });
-  EXPECT_THROW(Raise(program().f_results.Command1.OnClick), Stopped);
+  EXPECT_THROW(program().f_results.Command1.Click(), Stopped);
   ExpectPoolInStep();
 }
 
@@ -116,7 +116,7 @@ TEST_F(DraftPoolTest, NothingOfLastYearsPoolIsLeft) {
 }
 
 TEST_F(DraftPoolTest, TheButtonReturnsWhenTheDraftIsOver) {
-  Raise(program().f_results.Command1.OnClick);
+  program().f_results.Command1.Click();
   EXPECT_TRUE(draft().Command1.Enabled());
   EXPECT_TRUE(draft().Visible());
   EXPECT_EQ(draft().CurRank.Caption(), "Rank F");
@@ -126,21 +126,21 @@ TEST_F(DraftPoolTest, TheButtonReturnsWhenTheDraftIsOver) {
 TEST_F(DraftPoolTest, ASecondPressInTheMiddleOfTheFirstIsRunInsideIt) {
   for (int yield = 0; yield < 5; ++yield) desktop().AtYield([] {});
   desktop().AtYield([this] {
-    EXPECT_EQ(draft().List1[1].ListCount(), 6);
-    Raise(program().f_results.Command1.OnClick);
+    EXPECT_EQ(draft().List1.records.ListCount(), 6);
+    program().f_results.Command1.Click();
     // A whole draft has run.
     EXPECT_TRUE(draft().Command1.Enabled());
     EXPECT_EQ(Events().size(), 12U);
-    EXPECT_EQ(draft().List1[1].ListCount(), 20);
+    EXPECT_EQ(draft().List1.records.ListCount(), 20);
   });
   desktop().AtWait([this] {  // the first of the inner draft
     desktop().PassTime(std::chrono::seconds(1));
   });
-  Raise(program().f_results.Command1.OnClick);
+  program().f_results.Command1.Click();
   // The first press went on with its other fourteen goalies, then with a draft of its own.
   EXPECT_TRUE(draft().Command1.Enabled());
   EXPECT_EQ(Events().size(), 24U);
-  EXPECT_EQ(draft().List1[1].ListCount(), 34);
+  EXPECT_EQ(draft().List1.records.ListCount(), 34);
   EXPECT_EQ(dice().Rolls().size(), 2U * 840U);
   for (const char* rank : kRanks) EXPECT_EQ(ReadLines(PathOf(rank)).size(), 11U);
   EXPECT_FALSE(draft().AwaitingPick);

@@ -52,9 +52,9 @@ TEST_F(CpuDraftTest, TheScreenStartsAsDesigned) {
   const char* const positions[] = {"GO", "LD", "RD", "LF", "CF", "RF"};
   ListPair* const lists[] = {&draft().List1, &draft().List2, &draft().List3,
                              &draft().List4, &draft().List5, &draft().List6};
-  for (int i = 0; i < 6; ++i) EXPECT_EQ(draft().PoolOf(positions[i]), lists[i]);
-  EXPECT_EQ(draft().PoolOf("go"), nullptr);
-  EXPECT_FALSE(draft().List1[1].Visible());
+  for (int i = 0; i < 6; ++i) EXPECT_EQ(draft().Pool(positions[i]), lists[i]);
+  EXPECT_EQ(draft().Pool("go"), nullptr);
+  EXPECT_FALSE(draft().List1.records.Visible());
   EXPECT_FALSE(draft().tempList.Visible());
 }
 
@@ -276,7 +276,7 @@ TEST_F(CpuDraftTest, TheManLetGoIsBackBeforeTheFileIsWritten) {
     for (int yield = 0; yield < 10; ++yield) desktop().AtYield([] {});
     for (int line = 1; line <= 5; ++line) {
       desktop().AtYield([this, line] {
-        EXPECT_EQ(draft().List4[0].ListCount(), line);
+        EXPECT_EQ(draft().List4.shown.ListCount(), line);
         EXPECT_EQ(ordvik().counts().file_writes, 0);
       });
     }

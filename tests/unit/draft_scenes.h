@@ -46,26 +46,26 @@ class DraftScene : public GameFixture {
     }
   }
   void SetPool(const std::string& position, const Lines& records) {
-    ListPair& list = *draft().PoolOf(position);
+    ListPair& list = *draft().Pool(position);
     Lines shown;
     for (const std::string& record : records) shown.push_back(PoolLine(record));
-    FillList(list[0], shown);
-    FillList(list[1], records);
+    FillList(list.shown, shown);
+    FillList(list.records, records);
   }
-  Lines Pool(const std::string& position) { return ItemsOf((*draft().PoolOf(position))[1]); }
+  Lines Pool(const std::string& position) { return ItemsOf(draft().Pool(position)->records); }
   // Whether what is shown of the pool is what it holds.
   void ExpectPoolInStep() {
     for (ListPair* list : draft().Pool()) {
       Lines shown;
-      for (const std::string& record : ItemsOf((*list)[1])) shown.push_back(PoolLine(record));
-      EXPECT_EQ(ItemsOf((*list)[0]), shown);
+      for (const std::string& record : ItemsOf(list->records)) shown.push_back(PoolLine(record));
+      EXPECT_EQ(ItemsOf(list->shown), shown);
     }
   }
   Lines OpenLists() {
     Lines open;
     for (ListPair* list : draft().Pool()) {
-      EXPECT_EQ((*list)[0].Enabled(), (*list)[1].Enabled());
-      if ((*list)[0].Enabled()) open.push_back((*list)[0].Name());
+      EXPECT_EQ(list->shown.Enabled(), list->records.Enabled());
+      if (list->shown.Enabled()) open.push_back(list->shown.Name());
     }
     return open;
   }

@@ -39,9 +39,9 @@ class YearTest : public GameFixture {
   }
   void Pick() {
     for (ListPair* list : program().f_draft.Pool()) {
-      if (!(*list)[0].Enabled()) continue;
+      if (!list->shown.Enabled()) continue;
       desktop().QueueAnswer("yes");
-      (*list)[0].DoubleClick(0);
+      list->shown.DoubleClick(0);
       return;
     }
     FAIL() << "no list is open";
@@ -58,11 +58,11 @@ class YearTest : public GameFixture {
       for (int extra = at(franchise().MainList, 1); extra >= 0;
            extra = at(franchise().MainList, 1)) {
         franchise().MainRoster.Select(extra);
-        Raise(franchise().Command3.OnClick);
+        franchise().Command3.Click();
       }
       if (at(franchise().MainList, 0) < 0) {
         franchise().TrainingRoster.Select(at(franchise().TrainList, 0));
-        Raise(franchise().Command4.OnClick);
+        franchise().Command4.Click();
       }
     }
   }
@@ -73,13 +73,13 @@ class YearTest : public GameFixture {
     if (!answering_) Answer();
     answering_ = true;
     try {
-      Raise(franchise().Command2.OnClick);
+      franchise().Command2.Click();
     } catch (const LeftWaiting&) {
       Answer();
     }
     ASSERT_TRUE(program().f_results.Visible());
-    Raise(program().f_results.Command1.OnClick);
-    Raise(program().f_draft.Command1.OnClick);
+    program().f_results.Command1.Click();
+    program().f_draft.Command1.Click();
     ASSERT_TRUE(franchise().Visible());
   }
 

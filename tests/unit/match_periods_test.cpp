@@ -19,7 +19,7 @@ class GameScreenTest : public GameFixture {
 
   // Plays the period of TIMER to its last tick, from the press of "Start" on.
   void PlayPeriod() {
-    Raise(game().HighButton1.OnClick);
+    game().HighButton1.Click();
     desktop().PassTime(std::chrono::milliseconds(100 * 201));
   }
   Lines RunningTimers() {
@@ -193,7 +193,7 @@ TEST_F(GameScreenTest, StartRunsTheTimerOfTheNextPeriod) {
     game().Period2.SetValue(c.played2);
     game().Period3.SetValue(c.played3);
     dice().Forget();
-    Raise(game().HighButton1.OnClick);
+    game().HighButton1.Click();
     EXPECT_EQ(RunningTimers(), c.running) << c.played1 << " " << c.played2;
     EXPECT_FALSE(game().HighButton1.Visible());
     EXPECT_EQ(dice().Asked(), (std::vector<int>{2, 6}));
@@ -207,7 +207,7 @@ TEST_F(GameScreenTest, EachPressOfStartFacesOffAndForgetsThePossession) {
   game().PassesLeft = -1;
   game().PuckTeam = 1;
   dice().Give({2, 6});
-  Raise(game().HighButton1.OnClick);
+  game().HighButton1.Click();
   EXPECT_EQ(game().PassesLeft, 6);
   EXPECT_EQ(game().PuckTeam, 2);
 }
@@ -216,7 +216,7 @@ TEST_F(GameScreenTest, ATickOfTheFirstPeriodIsALineAtTheBottomAndAStep) {
   SetUpMatch();
   game().PuckPosition = "CF";
   dice().Give({1, 6, 1, 1});
-  Raise(game().HighButton1.OnClick);
+  game().HighButton1.Click();
   desktop().PassTime(std::chrono::milliseconds(99));
   EXPECT_EQ(game().Period1.Value(), 0);
   desktop().PassTime(std::chrono::milliseconds(101));
@@ -229,7 +229,7 @@ TEST_F(GameScreenTest, ATickOfTheFirstPeriodIsALineAtTheBottomAndAStep) {
 
 TEST_F(GameScreenTest, TheLineIsWrittenBeforeTheStep) {
   SetUpMatch();
-  Raise(game().HighButton1.OnClick);
+  game().HighButton1.Click();
   dice().Give({0});
   EXPECT_THROW(game().TickPeriod1(), std::logic_error);
   EXPECT_EQ(game().Events.List(game().Events.ListCount() - 1), "End of the first period!");
@@ -243,7 +243,7 @@ int CountOf(const RecordList& list, const std::string& line) {
 
 TEST_F(GameScreenTest, AGameIsThreePeriodsOfTwoHundredSteps) {
   SetUpMatch();
-  Raise(game().HighButton1.OnClick);
+  game().HighButton1.Click();
   desktop().PassTime(std::chrono::milliseconds(100 * 200));
   EXPECT_EQ(game().Period1.Value(), 200);
   EXPECT_FALSE(game().HighButton1.Visible());
@@ -280,7 +280,7 @@ TEST_F(GameScreenTest, AGameIsThreePeriodsOfTwoHundredSteps) {
 
 TEST_F(GameScreenTest, ATickNeverStartsInsideAnother) {
   SetUpMatch();
-  Raise(game().HighButton1.OnClick);
+  game().HighButton1.Click();
   for (int yield = 0; yield < 3; ++yield) {
     desktop().AtYield([this] {
       desktop().PassTime(std::chrono::seconds(1));
@@ -307,7 +307,7 @@ TEST_F(GameScreenTest, CloseOfASingleGameKeepsNoResult) {
   franchise().Score1 = 5;
   SetUpMatch();
   game().Label3.SetCaption("3");
-  Raise(game().HighButton2.OnClick);
+  game().HighButton2.Click();
   EXPECT_TRUE(startup().Visible());
   EXPECT_FALSE(game().Visible());
   EXPECT_FALSE(franchise().Visible());
@@ -335,7 +335,7 @@ TEST_F(GameScreenTest, CloseOfAFranchiseGameHandsOverTheResult) {
     SetUpMatch();
     game().Label3.SetCaption(c.home_goals);
     game().Label4.SetCaption(c.visitor_goals);
-    Raise(game().HighButton2.OnClick);
+    game().HighButton2.Click();
     EXPECT_EQ(franchise().LooseOrWin.Caption(), c.result) << c.user << c.home_goals;
     EXPECT_EQ(std::to_string(franchise().Score1), c.home_goals);
     EXPECT_EQ(std::to_string(franchise().Score2), c.visitor_goals);
@@ -352,7 +352,7 @@ TEST_F(GameScreenTest, ATeamAgainstItselfIsTheVisitorInTheEnd) {
   naming().SetUpMatch(home, "Same Team", home, "Same Team");
   game().Label3.SetCaption("3");
   game().Label4.SetCaption("1");
-  Raise(game().HighButton2.OnClick);
+  game().HighButton2.Click();
   EXPECT_EQ(franchise().LooseOrWin.Caption(), "You lost 1 - 3");
 }
 
@@ -360,12 +360,12 @@ TEST_F(GameScreenTest, TheCloseMarkAbandonsTheGameAndKeepsTheFranchiseWaiting) {
   for (const bool franchise_match : {true, false}) {
     game().FranchiseMatch = franchise_match;
     SetUpMatch();
-    Raise(game().HighButton1.OnClick);
+    game().HighButton1.Click();
     desktop().PassTime(std::chrono::seconds(1));
     game().HighButton2.Show();
     game().Timer2.Enable();
     game().Timer3.Enable();
-    Raise(game().Label5.OnClick);
+    game().Label5.Click();
     EXPECT_EQ(RunningTimers(), Lines{});
     for (const Label* label : {&game().GVisitor, &game().GHome, &game().Label3, &game().Label4}) {
       EXPECT_EQ(label->Caption(), "") << label->Name();

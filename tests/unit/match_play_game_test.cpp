@@ -29,7 +29,7 @@ class PlayGameTest : public GameFixture {
     desktop().AtWait([=, this] {
       game().Label3.SetCaption(home_goals);
       game().Label4.SetCaption(visitor_goals);
-      Raise(game().HighButton2.OnClick);
+      game().HighButton2.Click();
     });
     franchise().PlayGame(name1, name2, "F");
   }
@@ -170,7 +170,7 @@ TEST_F(PlayGameTest, TheUsersGameIsWatched) {
     }
     EXPECT_TRUE(dice().Rolls().empty());
     game().Label3.SetCaption("2");
-    Raise(game().HighButton2.OnClick);
+    game().HighButton2.Click();
   });
   franchise().PlayGame("F0 Wolves", "F1 Wolves", "F");
   EXPECT_EQ(franchise().Score1, 2);
@@ -180,18 +180,18 @@ TEST_F(PlayGameTest, TheUsersGameIsWatched) {
 }
 
 TEST_F(PlayGameTest, AWholeGameIsPlayedInTheWait) {
-  desktop().AtWait([this] { Raise(game().HighButton1.OnClick); });
+  desktop().AtWait([this] { game().HighButton1.Click(); });
   for (int wait = 0; wait < 201; ++wait)
     desktop().AtWait([this] { desktop().PassTime(std::chrono::milliseconds(100)); });
   desktop().AtWait([this] {
     EXPECT_EQ(game().Period1.Value(), 200);
     EXPECT_TRUE(game().HighButton1.Visible());
     for (int period = 0; period < 2; ++period) {
-      Raise(game().HighButton1.OnClick);
+      game().HighButton1.Click();
       desktop().PassTime(std::chrono::milliseconds(100 * 201));
     }
     EXPECT_TRUE(game().HighButton2.Visible());
-    Raise(game().HighButton2.OnClick);
+    game().HighButton2.Click();
   });
   franchise().PlayGame("F0 Wolves", "F1 Wolves", "F");
   EXPECT_EQ(desktop().Waits(), 203);
@@ -250,21 +250,21 @@ TEST_F(PlayGameTest, AnAbandonedGameWaitsUnderTheStartScreenForTheNext) {
   franchise().Score1 = 4;  // of the game before
   franchise().Score2 = 1;
   desktop().AtWait([this] {
-    Raise(game().HighButton1.OnClick);
+    game().HighButton1.Click();
     desktop().PassTime(std::chrono::seconds(5));
-    Raise(game().Label5.OnClick);
+    game().Label5.Click();
   });
   desktop().AtWait([this] {
     EXPECT_TRUE(game().FranchiseMatch);
     EXPECT_TRUE(startup().Visible());
     EXPECT_EQ(Standing("F0 Wolves"), "(0-0-0) F0 Wolves");
-    Raise(startup().HighButton1.OnClick);
+    startup().HighButton1.Click();
     FStartGame& choice = program().f_start_game;
     choice.List3.Select(5);
     choice.File1.Select(0);
     choice.List4.Select(5);
     choice.File2.Select(1);
-    Raise(choice.HighButton1.OnClick);
+    choice.HighButton1.Click();
     EXPECT_EQ(Standing("F0 Wolves"), "(0-0-0) F0 Wolves");
   });
   franchise().PlayGame("F0 Wolves", "F1 Wolves", "F");

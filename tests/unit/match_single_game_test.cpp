@@ -8,7 +8,7 @@ class SingleGameTest : public GameFixture {
   SingleGameTest() {
     world.FillWorld();
     program().Start();
-    Raise(startup().HighButton1.OnClick);
+    startup().HighButton1.Click();
   }
   FStartGame& screen() { return program().f_start_game; }
   Game& game() { return program().game; }
@@ -65,7 +65,7 @@ TEST_F(SingleGameTest, AnotherLeagueLeavesTheRosterAsItIs) {
 
 TEST_F(SingleGameTest, BeginAsksForTheTeamsThatAreMissing) {
   const auto refusal = [this] {
-    Raise(screen().HighButton1.OnClick);
+    screen().HighButton1.Click();
     EXPECT_FALSE(game().Visible());
     EXPECT_TRUE(screen().Visible());
     const MessageBox& box = desktop().Boxes().back();
@@ -92,7 +92,7 @@ TEST_F(SingleGameTest, BeginSetsUpAMatchThatIsNoneOfTheFranchises) {
   screen().File2.Select(1);
   const Lines before = world.Everything();
   desktop().AtYield([this] { EXPECT_FALSE(game().FranchiseMatch); });
-  Raise(screen().HighButton1.OnClick);
+  screen().HighButton1.Click();
   EXPECT_TRUE(desktop().Boxes().empty());
   EXPECT_FALSE(game().FranchiseMatch);
   EXPECT_TRUE(game().Visible());
@@ -103,10 +103,10 @@ TEST_F(SingleGameTest, BeginSetsUpAMatchThatIsNoneOfTheFranchises) {
   EXPECT_EQ(game().Line2Stats.List(0), screen().List2.List(0));
 
   for (int period = 0; period < 3; ++period) {
-    Raise(game().HighButton1.OnClick);
+    game().HighButton1.Click();
     desktop().PassTime(std::chrono::milliseconds(100 * 201));
   }
-  Raise(game().HighButton2.OnClick);
+  game().HighButton2.Click();
   EXPECT_TRUE(startup().Visible());
   EXPECT_FALSE(game().FranchiseMatch);
   EXPECT_EQ(franchise().Alerts.ListCount(), 0);
@@ -118,12 +118,12 @@ TEST_F(SingleGameTest, ASecondGameNeedsNoNewChoice) {
   screen().File1.Select(3);
   screen().List4.Select(0);
   screen().File2.Select(3);
-  Raise(screen().HighButton1.OnClick);
+  screen().HighButton1.Click();
   EXPECT_EQ(game().GHome.Caption(), game().GVisitor.Caption());
-  Raise(game().Label5.OnClick);
+  game().Label5.Click();
   // The start screen points both file lists at "Teams" again, where nothing is selected.
-  Raise(startup().HighButton1.OnClick);
-  Raise(screen().HighButton1.OnClick);
+  startup().HighButton1.Click();
+  screen().HighButton1.Click();
   EXPECT_TRUE(desktop().Boxes().empty());
   EXPECT_EQ(game().GHome.Caption(), "");
   EXPECT_EQ(game().GVisitor.Caption(), "");
@@ -131,7 +131,7 @@ TEST_F(SingleGameTest, ASecondGameNeedsNoNewChoice) {
 }
 
 TEST_F(SingleGameTest, TheCloseMarkGoesBackToTheStartScreen) {
-  Raise(screen().Label2.OnClick);
+  screen().Label2.Click();
   EXPECT_FALSE(screen().Visible());
   EXPECT_TRUE(startup().Visible());
 }

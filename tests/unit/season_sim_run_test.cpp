@@ -17,7 +17,7 @@ class SimRunTest : public GameFixture {
   }
   void Sim(const std::string& answer) {
     desktop().QueueAnswer(answer);
-    Raise(franchise().Command2.OnClick);
+    franchise().Command2.Click();
   }
   int GamesPlayed() { return static_cast<int>(ordvik().counts().file_writes) / 2; }
 
@@ -44,7 +44,7 @@ constexpr const char* kNotGreater = "You must select a week greater than your cu
 
 TEST_F(SimRunTest, InTheOffSeasonNothingIsAsked) {
   franchise().NextWeek.SetCaption("Off Season");
-  Raise(franchise().Command2.OnClick);
+  franchise().Command2.Click();
   EXPECT_TRUE(desktop().Prompts().empty());
   ASSERT_EQ(desktop().Boxes().size(), 1U);
   EXPECT_EQ(desktop().Boxes()[0].text, "You can't simulate the off season!");
@@ -92,7 +92,7 @@ TEST_F(SimRunTest, AMarkerWithoutANumberCountsAsNothingAndTheRunEndsWithCancel) 
           franchise().OppOverall.SetCaption("not yet");
           return ++presses == 3;
         },
-        [this] { Raise(franchise().Command5.OnClick); });
+        [this] { franchise().Command5.Click(); });
     Sim("1");
     EXPECT_EQ(presses, 3) << marker;
     EXPECT_EQ(franchise().NextWeek.Caption(), marker);
@@ -117,7 +117,7 @@ TEST_F(SimRunTest, ACurrentWeekOfElevenIsNotAboveElevenAndRunsUntilCancel) {
   When([this] { return franchise().OppOverall.Caption() != "not yet"; },
        [this] {
          EXPECT_TRUE(franchise().SimRunning);
-         Raise(franchise().Command5.OnClick);
+         franchise().Command5.Click();
        });
   Sim("12");
   EXPECT_TRUE(desktop().Boxes().empty());
@@ -173,7 +173,7 @@ TEST_F(SimRunTest, BetweenTwoPressesARunYields) {
   // The same week twice, with the same dice: once by a press, once by a run of one press.
   franchise().SimRunning = true;
   auto before = desktop().Yields();
-  Raise(franchise().HighButton1.OnClick);
+  franchise().HighButton1.Click();
   const auto press = desktop().Yields() - before;
   Restart();
   world.FillWorld();
@@ -189,7 +189,7 @@ TEST_F(SimRunTest, APressBetweenTwoPressesIsPlayedTooAndItsWeekCounts) {
   When([this] { return franchise().OppOverall.Caption() != "not yet"; },
        [this] {
          EXPECT_EQ(franchise().NextWeek.Caption(), "Week 2");
-         Raise(franchise().HighButton1.OnClick);
+         franchise().HighButton1.Click();
        });
   Sim("3");
   EXPECT_EQ(franchise().NextWeek.Caption(), "Week 3");
@@ -199,7 +199,7 @@ TEST_F(SimRunTest, APressBetweenTwoPressesIsPlayedTooAndItsWeekCounts) {
 TEST_F(SimRunTest, CancelBetweenTwoPressesEndsTheRun) {
   franchise().OppOverall.SetCaption("not yet");
   When([this] { return franchise().OppOverall.Caption() != "not yet"; },
-       [this] { Raise(franchise().Command5.OnClick); });
+       [this] { franchise().Command5.Click(); });
   Sim("9");
   EXPECT_EQ(franchise().NextWeek.Caption(), "Week 2");
   EXPECT_FALSE(franchise().SimRunning);
@@ -208,7 +208,7 @@ TEST_F(SimRunTest, CancelBetweenTwoPressesEndsTheRun) {
 TEST_F(SimRunTest, CancelEndsTheRunBehindTheWeekBeingPlayed) {
   When([this] { return GamesPlayed() == 7; },
        [this] {
-         Raise(franchise().Command5.OnClick);
+         franchise().Command5.Click();
          EXPECT_FALSE(franchise().Command5.Visible());
          EXPECT_TRUE(franchise().SimRunning);
        });
@@ -218,7 +218,7 @@ TEST_F(SimRunTest, CancelEndsTheRunBehindTheWeekBeingPlayed) {
   EXPECT_FALSE(franchise().SimRunning);
   // Behind the games too, in the rest of a press.
   When([this] { return franchise().NextWeek.Caption() == "Week 4"; },
-       [this] { Raise(franchise().Command5.OnClick); });
+       [this] { franchise().Command5.Click(); });
   Sim("9");
   EXPECT_EQ(franchise().NextWeek.Caption(), "Week 4");
   EXPECT_EQ(GamesPlayed(), 3 * 18);
@@ -247,14 +247,14 @@ TEST_F(SimRunTest, ADoubledPositionIsAskedAboutBeforeEveryWeek) {
   for (const std::string& record : roster) franchise().AddToRoster(record);
   desktop().QueueAnswer("4");
   for (const char* answer : {"no", "no", "no"}) desktop().QueueAnswer(answer);
-  Raise(franchise().Command2.OnClick);
+  franchise().Command2.Click();
   EXPECT_EQ(franchise().NextWeek.Caption(), "Week 4");
   EXPECT_EQ(desktop().Boxes().size(), 3U);
   EXPECT_EQ(desktop().LeftOverAnswers(), 0U);
   // A yes ends the run.
   desktop().QueueAnswer("9");
   for (const char* answer : {"no", "yes"}) desktop().QueueAnswer(answer);
-  Raise(franchise().Command2.OnClick);
+  franchise().Command2.Click();
   EXPECT_EQ(franchise().NextWeek.Caption(), "Week 5");
   EXPECT_FALSE(franchise().SimRunning);
 }

@@ -19,7 +19,7 @@ class WeekLoopTest : public GameFixture {
     franchise().SimRunning = true;  // nobody watches
     dice().Forget();
   }
-  void Begin() { Raise(franchise().HighButton1.OnClick); }
+  void Begin() { franchise().HighButton1.Click(); }
   std::array<Button*, 6> Buttons() {
     return {&franchise().HighButton1, &franchise().HighButton2, &franchise().HighButton3,
             &franchise().Command2,    &franchise().Command3,    &franchise().Command4};
@@ -345,7 +345,7 @@ TEST_F(WeekLoopTest, BehindAWatchedWeekTenTheOpponentHasNoName) {
   franchise().NextWeek.SetCaption("Week 10");
   franchise().OppTeam.SetCaption("F5 Wolves");
   dice().ThenAlways(110);
-  desktop().AtWait([this] { Raise(program().game.HighButton2.OnClick); });
+  desktop().AtWait([this] { program().game.HighButton2.Click(); });
   Begin();
   EXPECT_EQ(franchise().NextWeek.Caption(), "Off Season");
   EXPECT_EQ(franchise().OppTeam.Caption(), "");
@@ -384,7 +384,7 @@ TEST_F(WeekLoopTest, ALeftOverDraftMarkerBecomesWeekOne) {
 }
 
 TEST_F(WeekLoopTest, TestingEndsTheSeasonAtTheNextPress) {
-  Raise(franchise().Command1.OnClick);
+  franchise().Command1.Click();
   EXPECT_EQ(franchise().NextWeek.Caption(), "Off Season");
   EXPECT_EQ(franchise().Alerts.ListCount(), 0);
   EXPECT_FALSE(program().f_results.Visible());
@@ -447,7 +447,7 @@ TEST_F(WeekLoopTest, AnOpponentWhoHasMovedKeepsThePressOpenForGood) {
   desktop().AtWait([this] {
     EXPECT_EQ(ItemsOf(franchise().tempList), Lines{",,,,,,,,"});
     // The game goes on in the waits of that load: here to its end.
-    Raise(startup().HighButton3.OnClick);
+    startup().HighButton3.Click();
   });
   EXPECT_THROW(Begin(), ProgramEnded);
   EXPECT_EQ(desktop().Waits(), 9);

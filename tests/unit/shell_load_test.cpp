@@ -20,7 +20,7 @@ class LoadTest : public GameFixture {
     }
     WriteText(world.SettingsPath("Alerts.fmk"), "newest\r\noldest\r\n");
     program().Start();
-    startup().HighButton2.OnClick();
+    startup().HighButton2.Click();
   }
 
   void SaveSettings(const std::string& team, const std::string& rank, const std::string& week) {
@@ -28,7 +28,7 @@ class LoadTest : public GameFixture {
                                                       "\r\nRank=" + rank + "\r\nWeek=" + week +
                                                       "\r\nSeason=4\r\nChampion=1\r\n");
   }
-  void Load() { startup().HighButton5.OnClick(); }
+  void Load() { startup().HighButton5.Click(); }
 
   // The captions of all labels of all screens.
   Lines Captions() {
@@ -122,9 +122,9 @@ TEST_F(LoadTest, RestoresTheOffSeason) {
 
 TEST_F(LoadTest, ASecondLoadInOneRunDoublesRostersAndAlertsButNotTheLeagues) {
   Load();
-  franchise().HighButton2.OnClick();
+  franchise().HighButton2.Click();
   EXPECT_FALSE(startup().HighButton5.Visible());
-  startup().HighButton2.OnClick();
+  startup().HighButton2.Click();
   Load();
   EXPECT_EQ(franchise().MainList.ListCount(), 12);
   EXPECT_EQ(franchise().MainRoster.ListCount(), 12);

@@ -17,16 +17,16 @@ class NewFranchiseTest : public GameFixture {
   void SetUp() override {
     dice().KeepRolls(false);
     program().Start();
-    startup().HighButton2.OnClick();
+    startup().HighButton2.Click();
   }
   void FillRankF(int teams) {
     for (int i = 0; i < teams; ++i) {
       world.WriteTeam("Rank F", WolvesOf("Rank F", i), MakeRoster(80));
     }
   }
-  void New() { startup().HighButton4.OnClick(); }
-  void Generate() { startup().HighButton7.OnClick(); }
-  void Begin() { startup().HighButton6.OnClick(); }
+  void New() { startup().HighButton4.Click(); }
+  void Generate() { startup().HighButton7.Click(); }
+  void Begin() { startup().HighButton6.Click(); }
   TeamCreator& creator() { return program().team_creator; }
 };
 
@@ -150,14 +150,14 @@ TEST_F(PanelTest, TheCrossClosesThePanelAndTheTeamStays) {
   Generate();
   startup().Frame1.Show();
   const Lines team = ItemsOf(creator().List1);
-  startup().Label3.OnClick();
+  startup().Label3.Click();
   EXPECT_FALSE(startup().Frame1.Visible());
   EXPECT_EQ(ItemsOf(creator().List1), team);
 }
 
 TEST_F(PanelTest, TheHotSpotRollsUntilTheWantedOverallComesUp) {
   desktop().QueueAnswer("86");
-  startup().Label12.OnClick();
+  startup().Label12.Click();
   EXPECT_EQ(desktop().Prompts(), (Lines{"Desired overall?"}));
   EXPECT_EQ(startup().Label8.Caption(), "86");
   EXPECT_EQ(startup().List1.ListCount(), 6);
@@ -171,7 +171,7 @@ TEST_F(PanelTest, TheWantedOverallIsComparedAsText) {
     constexpr int kYieldsOfATeam = 11 + 11 + 1;
     for (int i = 0; i < 60 * kYieldsOfATeam; ++i) desktop().AtYield([] {});
     desktop().AtYield([] { throw Enough(); });
-    EXPECT_THROW(startup().Label12.OnClick(), Enough) << wanted;
+    EXPECT_THROW(startup().Label12.Click(), Enough) << wanted;
   }
 }
 
@@ -179,7 +179,7 @@ TEST_F(PanelTest, TheHotSpotYieldsAfterEachTeam) {
   dice().ThenAlways(30);  // every skill 70
   desktop().QueueAnswer("70");
   const auto before = desktop().Yields();
-  startup().Label12.OnClick();
+  startup().Label12.Click();
   EXPECT_EQ(desktop().Yields() - before, 11 + 11 + 1);
 }
 
@@ -276,8 +276,8 @@ TEST_F(BeginTest, TheFranchiseIsOnViewWhileTheRosterFills) {
 
 TEST_F(BeginTest, ASecondBeginInOneRunAddsToTheRoster) {
   Begin();
-  franchise().HighButton2.OnClick();
-  startup().HighButton2.OnClick();
+  franchise().HighButton2.Click();
+  startup().HighButton2.Click();
   startup().Text1.Type("Quebec");
   Begin();
   EXPECT_EQ(franchise().MainList.ListCount(), 12);

@@ -22,11 +22,11 @@ class RosterTest : public GameFixture {
   }
   void ToTraining(int i) {
     franchise().MainRoster.Select(i);
-    franchise().Command3.OnClick();
+    franchise().Command3.Click();
   }
   void ToLeadLine(int i) {
     franchise().TrainingRoster.Select(i);
-    franchise().Command4.OnClick();
+    franchise().Command4.Click();
   }
   FPlayer& popup() { return program().f_player; }
   Lines Shown() {
@@ -98,8 +98,8 @@ TEST_F(RosterTest, TheDisplayLineMovesAsItIsAndTheRecordIsRecomputed) {
 
 TEST_F(RosterTest, WithNothingSelectedAnArrowDoesNothing) {
   const Lines before = world.Everything();
-  franchise().Command3.OnClick();
-  franchise().Command4.OnClick();
+  franchise().Command3.Click();
+  franchise().Command4.Click();
   EXPECT_EQ(world.Everything(), before);
   EXPECT_EQ(franchise().MainList.ListCount(), 6);
   EXPECT_EQ(franchise().TrainList.ListCount(), 5);
@@ -108,7 +108,7 @@ TEST_F(RosterTest, WithNothingSelectedAnArrowDoesNothing) {
 TEST_F(RosterTest, ASecondPressActsOnTheSelectionThatTheListThenHas) {
   ToTraining(2);
   const Lines after_one = ReadLines(TeamFile());
-  franchise().Command3.OnClick();  // the selected player has gone, so nobody is selected
+  franchise().Command3.Click();  // the selected player has gone, so nobody is selected
   EXPECT_EQ(ReadLines(TeamFile()), after_one);
   ToTraining(2);  // the one who moved up
   EXPECT_EQ(franchise().TrainingRoster.List(6), "RF - Dean Player (76/20)");
@@ -162,13 +162,13 @@ TEST_F(RosterTest, WithAnEmptyLeadLineThePopupIsEmpty) {
 
 TEST_F(RosterTest, TheCrossHidesThePopup) {
   franchise().MainRoster.DoubleClick(0);
-  popup().Label5.OnClick();
+  popup().Label5.Click();
   EXPECT_FALSE(popup().Visible());
 }
 
 TEST_F(RosterTest, MinMinimizes) {
   franchise().Show();
-  franchise().Command6.OnClick();
+  franchise().Command6.Click();
   EXPECT_TRUE(franchise().Minimized());
   EXPECT_TRUE(franchise().Visible());
 }

@@ -27,7 +27,7 @@ class SaveTest : public GameFixture {
 TEST_F(SaveTest, WritesSettingsRosterStandingsAndAlerts) {
   FillList(franchise().MainList, {"m1", "m2"});
   FillList(franchise().TrainList, {"t1"});
-  franchise().HighButton3.OnClick();
+  franchise().HighButton3.Click();
   EXPECT_EQ(ReadText(world.SettingsPath("settings.fmk")),
             "[Frostmark]\r\nTeam=F2 Wolves\r\nRank=Rank F\r\nWeek=Week 3\r\nSeason=2\r\n"
             "Champion=1\r\n");
@@ -186,7 +186,7 @@ TEST_F(SaveTest, CloseSavesNothingAsksNothingAndKeepsTheLists) {
   startup().Hide();
   franchise().Show();
   const Lines before = world.Everything();
-  franchise().HighButton2.OnClick();
+  franchise().HighButton2.Click();
   EXPECT_FALSE(franchise().Visible());
   EXPECT_TRUE(startup().Visible());
   EXPECT_EQ(world.Everything(), before);
@@ -197,18 +197,18 @@ TEST_F(SaveTest, CloseSavesNothingAsksNothingAndKeepsTheLists) {
 
 TEST_F(SaveTest, WhatIsSavedComesBackInANewRun) {
   franchise().MainRoster.Select(0);
-  franchise().Command3.OnClick();  // the goalie, so that the file's order is not that of positions
+  franchise().Command3.Click();  // the goalie, so that the file's order is not that of positions
   franchise().TrainingRoster.Select(5);
-  franchise().Command4.OnClick();
+  franchise().Command4.Click();
   const Lines lead = ItemsOf(franchise().MainList);
   const Lines training = ItemsOf(franchise().TrainList);
   const Lines shown = ItemsOf(franchise().MainRoster);
-  franchise().HighButton3.OnClick();
-  franchise().HighButton2.OnClick();
+  franchise().HighButton3.Click();
+  franchise().HighButton2.Click();
   Restart();
   program().Start();
-  startup().HighButton2.OnClick();
-  startup().HighButton5.OnClick();
+  startup().HighButton2.Click();
+  startup().HighButton5.Click();
   EXPECT_EQ(franchise().TeamName.Caption(), "F2 Wolves");
   EXPECT_EQ(franchise().MyRank.Caption(), "Rank F");
   EXPECT_EQ(franchise().NextWeek.Caption(), "Week 3");
@@ -236,8 +236,8 @@ TEST_F(SaveTest, AWeekThatIsNotSavedLosesItsMarkerButKeepsItsRosters) {
   const std::string standings = ReadText(world.SettingsPath("StatRankF.fmk"));
   const std::string roster = ReadText(world.TeamPath("Rank F", "F2 Wolves"));
   franchise().SimRunning = true;
-  franchise().HighButton1.OnClick();
-  franchise().HighButton2.OnClick();
+  franchise().HighButton1.Click();
+  franchise().HighButton2.Click();
   EXPECT_EQ(franchise().NextWeek.Caption(), "Week 6");
   EXPECT_EQ(ReadText(world.SettingsPath("settings.fmk")), settings);
   EXPECT_EQ(ReadText(world.SettingsPath("StatRankF.fmk")), standings);

@@ -44,24 +44,24 @@ TEST_F(StartScreenTest, AGameOnDiskIsNotLookedAt) {
 TEST_F(StartScreenTest, NewAndLoadComeAndGoWithFranchise) {
   EXPECT_FALSE(startup().HighButton4.Visible());
   EXPECT_FALSE(startup().HighButton5.Visible());
-  startup().HighButton2.OnClick();
+  startup().HighButton2.Click();
   EXPECT_TRUE(startup().HighButton4.Visible());
   EXPECT_TRUE(startup().HighButton5.Visible());
-  startup().HighButton2.OnClick();
+  startup().HighButton2.Click();
   EXPECT_FALSE(startup().HighButton4.Visible());
   EXPECT_FALSE(startup().HighButton5.Visible());
 }
 
 TEST_F(StartScreenTest, NewAloneDecidesWhetherFranchiseShowsOrHides) {
   startup().HighButton5.Show();
-  startup().HighButton2.OnClick();
+  startup().HighButton2.Click();
   EXPECT_TRUE(startup().HighButton4.Visible());
   EXPECT_TRUE(startup().HighButton5.Visible());
 }
 
 TEST_F(StartScreenTest, SingleGameOpensTheChoiceWithEmptyLists) {
   world.FillWorld();
-  startup().HighButton1.OnClick();
+  startup().HighButton1.Click();
   EXPECT_EQ(program().f_start_game.File1.Path(), world.path() + "/Teams");
   EXPECT_EQ(program().f_start_game.File2.Path(), world.path() + "/Teams");
   EXPECT_EQ(program().f_start_game.File1.ListCount(), 0);
@@ -71,7 +71,7 @@ TEST_F(StartScreenTest, SingleGameOpensTheChoiceWithEmptyLists) {
 }
 
 TEST_F(StartScreenTest, ExitEndsTheProgramAtOnceWithoutSavingOrAsking) {
-  EXPECT_THROW(startup().HighButton3.OnClick(), ProgramEnded);
+  EXPECT_THROW(startup().HighButton3.Click(), ProgramEnded);
   EXPECT_TRUE(desktop().Boxes().empty());
   EXPECT_TRUE(world.Everything().empty());
 }
@@ -81,9 +81,9 @@ TEST_F(StartScreenTest, ExitWithAFranchiseBehindItSavesNothing) {
   TakeOver("Rank F", "F2 Wolves");
   const Lines before = world.Everything();
   franchise().Show();
-  franchise().HighButton2.OnClick();
+  franchise().HighButton2.Click();
   EXPECT_TRUE(startup().Visible());
-  EXPECT_THROW(startup().HighButton3.OnClick(), ProgramEnded);
+  EXPECT_THROW(startup().HighButton3.Click(), ProgramEnded);
   EXPECT_EQ(world.Everything(), before);
   EXPECT_TRUE(desktop().Boxes().empty());
 }
@@ -139,12 +139,12 @@ TEST_F(StartScreenTest, OneScreenComesAndTheOtherGoesInTheOrderOfEachWay) {
 }
 
 TEST_F(StartScreenTest, TheAddressOpensTheWebPage) {
-  startup().Label1.OnClick();
+  startup().Label1.Click();
   EXPECT_EQ(desktop().WebPages(), (Lines{startup().Label1.Caption()}));
 }
 
 TEST_F(StartScreenTest, TheHotSpotOpensTheToolBesideTheStartScreen) {
-  startup().Label2.OnClick();
+  startup().Label2.Click();
   EXPECT_TRUE(program().team_creator.Visible());
   EXPECT_TRUE(startup().Visible());
 }

@@ -19,13 +19,13 @@ class Sample : public Screen {
   Button Button1{*this, "Button1", "press", Start::kHidden};
   Frame Frame1{*this, "Frame1", "frame", Start::kHidden};
   Label Label2{Frame1, "Label2", "within"};
-  TabStrip Tabs{*this, "Tabs", {"one", "two"}};
+  TabStrip Tabs{*this, "Tabs", {"one", "two"}, Called{"Pages"}};
   ListBox List1{Tabs.Page(1), "List1"};
   ListBox List2{*this, "List2", Start::kNeverShown};
   Label Label3{*this, "Label3", "", Start::kOutside};
-  ListPair Pair{*this, "Pair"};
+  ListPair Pair{*this, "Pair", Called{"Two"}};
   Timer Timer1{*this, "Timer1", 100};
-  ProgressBar Bar{*this, "Bar", 20};
+  ProgressBar Bar{*this, "Bar", 20, Called{"Bar"}};
 };
 
 class Watcher : public Control::Observer {
@@ -44,7 +44,7 @@ TEST_F(ControlsTest, AScreenKnowsItsControlsInOrderAndByName) {
   EXPECT_EQ(sample_.Controls().front(), &sample_.Label1);
   EXPECT_EQ(sample_.Controls().size(), 12U);
   EXPECT_EQ(sample_.Find("Button1"), &sample_.Button1);
-  EXPECT_EQ(sample_.Find("Pair(1)"), &sample_.Pair[1]);
+  EXPECT_EQ(sample_.Find("Pair(1)"), &sample_.Pair.records);
   EXPECT_EQ(sample_.Find("button1"), nullptr);
   EXPECT_EQ(sample_.Label2.FullName(), "Sample.Label2");
   EXPECT_EQ(screens_.Find("Sample"), &sample_);
@@ -60,8 +60,8 @@ TEST_F(ControlsTest, StartAsTheyAreDeclared) {
   EXPECT_TRUE(sample_.Label3.Outside());
   EXPECT_TRUE(sample_.Label3.Visible());
   EXPECT_FALSE(sample_.Timer1.Enabled());
-  EXPECT_TRUE(sample_.Pair[1].NeverShown());
-  EXPECT_FALSE(sample_.Pair[0].NeverShown());
+  EXPECT_TRUE(sample_.Pair.records.NeverShown());
+  EXPECT_FALSE(sample_.Pair.shown.NeverShown());
 }
 
 TEST_F(ControlsTest, AreOnViewWhenScreenFrameAndTheyThemselvesAre) {

@@ -110,7 +110,7 @@ class ProgramsTest : public GameFixture {};
 
 TEST_F(ProgramsTest, SeveralLiveSideBySide) {
   Session other(world.path());
-  startup().HighButton2.OnClick();
+  startup().HighButton2.Click();
   other.program.franchise.TeamName.SetCaption("Other");
   EXPECT_FALSE(other.program.startup.HighButton4.Visible());
   EXPECT_EQ(franchise().TeamName.Caption(), "");

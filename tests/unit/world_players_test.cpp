@@ -152,7 +152,7 @@ TEST_F(PlayersTest, AGeneratedRecordHoldsWhatWasRolled) {
 }
 
 TEST_F(PlayersTest, ATeamIsRatedAndShown) {
-  creator().Command2.OnClick();
+  creator().Command2.Click();
   int offense = 0;
   int defense = 0;
   for (const std::string& record : ItemsOf(creator().List1)) {
@@ -209,7 +209,7 @@ TEST_F(ToolSaveTest, WritesIntoALeagueWhenRunFromWithinTheFolderOfLeagues) {
   creator().GenTeam();
   const Lines team = ItemsOf(creator().List1);
   creator().Combo1.SetText("Rank B");
-  creator().Command1.OnClick();
+  creator().Command1.Click();
   EXPECT_EQ(ReadLines(world.TeamPath("Rank B", "Denver Skeletons")), team);
   EXPECT_EQ(creator().List1.ListCount(), 0);
   EXPECT_EQ(creator().Text1.Text(), "");
@@ -222,7 +222,7 @@ TEST_F(ToolSaveTest, WritesNothingFromAnywhereElse) {
   std::filesystem::current_path(world.path());
   creator().GenTeam();
   creator().Combo1.SetText("Rank B");
-  creator().Command1.OnClick();
+  creator().Command1.Click();
   EXPECT_TRUE(world.Everything().empty());
   EXPECT_TRUE(desktop().Boxes().empty());
   EXPECT_EQ(creator().List1.ListCount(), 0);

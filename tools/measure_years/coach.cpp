@@ -30,20 +30,20 @@ int WeakestOf(const RecordList& list) {
 void Coach::BeginFranchise() {
   Startup& startup = program_.startup;
   program_.Start();
-  Raise(startup.HighButton2.OnClick);
-  Raise(startup.HighButton4.OnClick);
-  Raise(startup.HighButton7.OnClick);
-  Raise(startup.HighButton6.OnClick);
+  startup.HighButton2.Click();
+  startup.HighButton4.Click();
+  startup.HighButton7.Click();
+  startup.HighButton6.Click();
 }
 
 void Coach::PlayYear() {
   SetLines();
   try {
-    Raise(program_.franchise.Command2.OnClick);
+    program_.franchise.Command2.Click();
   } catch (const PressLeftOpen&) {
   }
-  Raise(program_.f_results.Command1.OnClick);
-  Raise(program_.f_draft.Command1.OnClick);
+  program_.f_results.Command1.Click();
+  program_.f_draft.Command1.Click();
 }
 
 void Coach::Wait() {
@@ -65,10 +65,10 @@ void Coach::SetLines() {
     for (int i = BestOf(franchise.MainList, position); i >= 0;
          i = BestOf(franchise.MainList, position)) {
       franchise.MainRoster.Select(i);
-      Raise(franchise.Command3.OnClick);
+      franchise.Command3.Click();
     }
     franchise.TrainingRoster.Select(BestOf(franchise.TrainList, position));
-    Raise(franchise.Command4.OnClick);
+    franchise.Command4.Click();
   }
 }
 
@@ -79,7 +79,7 @@ void Coach::TakeTurnInDraft() {
     return;
   }
   for (ListPair* list : program_.f_draft.Pool()) {
-    if ((*list)[0].Enabled()) return (*list)[0].DoubleClick(0);
+    if (list->shown.Enabled()) return list->shown.DoubleClick(0);
   }
 }
 

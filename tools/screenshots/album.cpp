@@ -61,7 +61,7 @@ void Album::Take(const Screen& screen, const QString& name) {
 }
 
 void Album::Run(Timer& timer, int times) {
-  for (int i = 0; i < times && timer.Enabled(); ++i) Raise(timer.OnTick);
+  for (int i = 0; i < times && timer.Enabled(); ++i) timer.Tick();
 }
 
 }  // namespace frostmark

@@ -22,11 +22,11 @@ void ShowOwnGame(Album& album) {
 void TakeDesk(Album& album) {
   Program& program = album.program();
   Franchise& franchise = program.franchise;
-  Raise(program.startup.HighButton4.OnClick);
-  Raise(program.startup.HighButton7.OnClick);
-  Raise(program.startup.HighButton6.OnClick);
+  program.startup.HighButton4.Click();
+  program.startup.HighButton7.Click();
+  program.startup.HighButton6.Click();
   franchise.SimRunning = true;
-  for (int week = 1; week < 5; ++week) Raise(franchise.HighButton1.OnClick);
+  for (int week = 1; week < 5; ++week) franchise.HighButton1.Click();
   album.Take(franchise, "franchise-main");
   franchise.XTab1.SetFront(1);
   ShowOwnGame(album);
@@ -36,7 +36,7 @@ void TakeDesk(Album& album) {
   franchise.XTab1.SetFront(3);
   franchise.MainRoster.DoubleClick(1);
   album.Take(program.f_player, "player");
-  Raise(program.f_player.Label5.OnClick);
+  program.f_player.Label5.Click();
   album.Take(franchise, "franchise-roster");
   franchise.XTab1.SetFront(0);
 }
@@ -52,7 +52,7 @@ void TakeResults(Album& album) {
   };
   while (!results.Visible()) {
     try {
-      Raise(franchise.HighButton1.OnClick);
+      franchise.HighButton1.Click();
     } catch (const ProgramEnded&) {
     }
   }
@@ -74,9 +74,9 @@ void TakeTurn(Album& album) {
     return;
   }
   for (ListPair* list : draft.Pool()) {
-    if (!(*list)[0].Enabled()) continue;
+    if (!list->shown.Enabled()) continue;
     album.Take(draft, "draft-your-turn");
-    (*list)[0].DoubleClick(0);
+    list->shown.DoubleClick(0);
     return;
   }
 }
@@ -92,7 +92,7 @@ void TakeDraft(Album& album) {
     }
     TakeTurn(album);
   };
-  Raise(album.program().f_results.Command1.OnClick);
+  album.program().f_results.Command1.Click();
   album.desktop().while_waiting = nullptr;
 }
 

@@ -18,29 +18,29 @@ void TakeStartAndMatch(Album& album) {
   program.Start();
   album.Take(startup, "startup");
 
-  Raise(startup.HighButton2.OnClick);
-  Raise(startup.HighButton4.OnClick);
-  Raise(startup.HighButton7.OnClick);
+  startup.HighButton2.Click();
+  startup.HighButton4.Click();
+  startup.HighButton7.Click();
   album.Take(startup, "create-a-team");
-  Raise(startup.Label3.OnClick);
+  startup.Label3.Click();
 
-  Raise(startup.Label2.OnClick);
-  Raise(program.team_creator.Command2.OnClick);
+  startup.Label2.Click();
+  program.team_creator.Command2.Click();
   program.team_creator.List1.SetListIndex(3);
   album.Take(program.team_creator, "team-creator");
   program.team_creator.Hide();
 
-  Raise(startup.HighButton1.OnClick);
+  startup.HighButton1.Click();
   ChooseTeams(program.f_start_game);
   album.Take(program.f_start_game, "choose-teams");
 
-  Raise(program.f_start_game.HighButton1.OnClick);
+  program.f_start_game.HighButton1.Click();
   Game& game = program.game;
   album.Take(game, "game-rosters");
   game.XTab1.SetFront(1);
-  Raise(game.HighButton1.OnClick);
+  game.HighButton1.Click();
   Album::Run(game.Timer1, 201);
-  Raise(game.HighButton1.OnClick);
+  game.HighButton1.Click();
   Album::Run(game.Timer2, 90);
   album.Take(game, "game");
   // On to the next goal, which is marked for a moment.
@@ -51,7 +51,7 @@ void TakeStartAndMatch(Album& album) {
     Album::Run(game.Timer2, 1);
   }
   album.Take(game, "game-goal");
-  Raise(game.Label5.OnClick);
+  game.Label5.Click();
 }
 
 }  // namespace frostmark
