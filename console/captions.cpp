@@ -3,7 +3,6 @@
 #include <vector>
 
 #include "console/drawing.h"
-#include "console/hints.h"
 #include "console/names.h"
 #include "console/refusal.h"
 
@@ -13,8 +12,7 @@ namespace {
 bool Bears(Control& control, std::string_view caption) {
   const CaptionedControl* const captioned = AsCaptioned(control);
   if (captioned != nullptr && captioned->Caption() == caption) return true;
-  const char* const words = HintFor(control);
-  return words != nullptr && words == caption;
+  return !caption.empty() && control.called().words == caption;
 }
 
 const char* KindWord(ControlKind kind) {
@@ -81,14 +79,14 @@ std::string Described(Control& control) {
   std::string text = control.FullName() + ": " + KindWord(control.Kind()) +
                      (control.Visible() ? " visible" : " hidden") +
                      (control.Enabled() ? " enabled" : " disabled");
-  const char* const words = HintFor(control);
-  if (words != nullptr && *words != '\0') text.append(" (").append(words).append(")");
-  if (const ListBox* list = AsList(control)) {
-    return text + ": " + std::to_string(list->ListCount()) + " items";
-  }
   Named named;
   named.control = &control;
   const auto caption = TextOf(named);
+  const std::string words = control.called().words;
+  if (!words.empty() && words != caption) text += " (" + words + ")";
+  if (const ListBox* list = AsList(control)) {
+    return text + ": " + std::to_string(list->ListCount()) + " items";
+  }
   return caption && !caption->empty() ? text + ": " + *caption : text;
 }
 

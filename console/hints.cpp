@@ -17,8 +17,8 @@ bool LeftOut(const Control& control) {
 std::string HeadingOf(const Control& control) {
   const Called& called = control.called();
   if (called.in_drawing != nullptr) return called.in_drawing;
-  if (*called.words == '\0') return control.Name() + ":";
-  return IsList(control) ? std::string(called.words) + ":" : called.words;
+  const std::string words = *called.words == '\0' ? control.Name() : called.words;
+  return IsList(control) && !words.ends_with('?') ? words + ":" : words;
 }
 
 std::string OfferedAs(const Control& control, const std::string& otherwise) {

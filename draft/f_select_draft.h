@@ -12,9 +12,9 @@ class FSelectDraft : public Screen {
  public:
   explicit FSelectDraft(Program& program);
 
-  TabStrip XTab1{*this, "XTab1", {"Select Player"}, Called{"Select player"}};
-  ListBox List1{*this, "List1", Called{"Players of your team", "Who has to go?"}};  // display lines
-  ListBox List2{*this, "List2", Start::kNeverShown};  // the records behind them
+  TabStrip XTab1{*this, "XTab1", {"Select Player"}, Called{"Select Player"}};
+  ListBox List1{*this, "List1", Called{"Who has to go?"}};  // display lines
+  ListBox List2{*this, "List2", Start::kNeverShown};        // the records behind them
 
   // draft/player_picks.cpp
   void ConnectRelease();
