@@ -55,8 +55,7 @@ bool CanBePressed(Control& control) {
 }
 
 std::string CaptionToPress(Control& control) {
-  const char* const words = HintFor(control);
-  if (words != nullptr && *words != '\0') return words;
+  if (*control.called().words != '\0') return control.called().words;
   const CaptionedControl* const captioned = AsCaptioned(control);
   return captioned == nullptr ? "" : captioned->Caption();
 }

@@ -390,12 +390,12 @@ TEST_F(GameScreenTest, TheCloseMarkPressedInsideAStepLeavesTheGameAndHarmsNothin
     for (int yield = 0; yield < 24; ++yield) {
       SetUpMatch();
       dice().ThenSeeded(static_cast<std::uint32_t>(roll));
-      Raise(game().HighButton1.OnClick);
+      game().HighButton1.Click();
       desktop().PassTime(std::chrono::milliseconds(100 * roll));
       bool left = false;
       const auto leave = [&] {
         left = true;
-        Raise(game().Label5.OnClick);
+        game().Label5.Click();
         EXPECT_EQ(game().LineList.ListCount(), 0);
       };
       for (int before = 0; before < yield; ++before) desktop().AtYield([] {});
@@ -428,9 +428,9 @@ TEST_F(GameScreenTest, TheCloseMarkPressedInsideAStepLeavesTheGameAndHarmsNothin
 TEST_F(GameScreenTest, TheCloseMarkPressedInsideAFaceOffLeavesTheCentreThatWasFound) {
   SetUpMatch();
   for (int yield = 1; yield < 12; ++yield) desktop().AtYield([] {});
-  desktop().AtYield([this] { Raise(game().Label5.OnClick); });
+  desktop().AtYield([this] { game().Label5.Click(); });
   dice().Give({2, 3});
-  Raise(game().HighButton1.OnClick);
+  game().HighButton1.Click();
   EXPECT_EQ(game().PuckCarrier, visitor.List(4));
   EXPECT_EQ(ItemsOf(game().Events), Lines{"Earl Player wins the face off!"});
   EXPECT_EQ(RunningTimers(), Lines{});

@@ -330,7 +330,7 @@ TEST_F(PlayGameTest, StandingsTrainingResultAndNewsFollowInThisOrder) {
   desktop().AtWait([this] {
     game().Label3.SetCaption("3");
     game().Label4.SetCaption("1");
-    Raise(game().HighButton2.OnClick);
+    game().HighButton2.Click();
     franchise().LooseOrWin.SetCaption("before");
     WriteText(PathOf("F0 Wolves"), "");
     WriteText(PathOf("F1 Wolves"), "");
@@ -384,7 +384,7 @@ TEST_F(PlayGameTest, TheGameIsTheFranchisesBeforeItIsSetUpAndTheOpponentGoesOnly
   desktop().AtWait([&] {
     EXPECT_EQ(looks, 22);
     EXPECT_EQ(franchise().OppTeam.Caption(), "");
-    Raise(game().HighButton2.OnClick);
+    game().HighButton2.Click();
   });
   franchise().PlayGame("F0 Wolves", "F1 Wolves", "F");
 }
@@ -395,11 +395,11 @@ TEST_F(PlayGameTest, AGameThatWasAbandonedForALoadGoesOnWaitingUnderTheLoadedFra
   WriteText(world.SettingsPath("StatRankF.fmk"), "(4-0-0) F0 Wolves\r\n(0-4-0) F1 Wolves\r\n");
   franchise().Show();
   desktop().AtWait([this] {
-    Raise(game().HighButton1.OnClick);
+    game().HighButton1.Click();
     desktop().PassTime(std::chrono::seconds(5));
-    Raise(game().Label5.OnClick);
-    Raise(startup().HighButton2.OnClick);
-    Raise(startup().HighButton5.OnClick);
+    game().Label5.Click();
+    startup().HighButton2.Click();
+    startup().HighButton5.Click();
     EXPECT_TRUE(franchise().Visible());
     EXPECT_FALSE(startup().Visible());
     EXPECT_TRUE(game().FranchiseMatch);

@@ -153,7 +153,7 @@ TEST_F(SingleGameTest, TheGameIsNotTheFranchisesBeforeItIsSetUp) {
       EXPECT_TRUE(screen().Visible());
     });
   }
-  Raise(screen().HighButton1.OnClick);
+  screen().HighButton1.Click();
   EXPECT_EQ(looks, 22);
 }
 
