@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstdlib>
+#include <iostream>
+#include <string>
+#include <string_view>
+
+#include "shell/program.h"
+#include "ui/headless_desktop.h"
+
+namespace frostmark::fuzz {
+
+// Each target is one of these. Errors of the game's own (RuntimeError, Refusal) are answers like
+// others; anything else that is thrown, and whatever the sanitizers see, is a finding.
+void Take(std::string_view input);
+
+// Ends the target as a crash would when CONDITION does not hold.
+inline void Require(bool condition, std::string_view what) {
+  if (condition) return;
+  std::cerr << "does not hold: " << what << '\n';
+  std::abort();
+}
+
+// Dice that fall the same way for the same input.
+class CountingDice : public Dice {
+ public:
+  int Roll(int n) override { return static_cast<int>(count_++ % static_cast<unsigned>(n)) + 1; }
+  void Restart() { count_ = 0; }
+
+ private:
+  unsigned count_ = 0;
+};
+
+// A game without a world: nothing is read, and what it writes reaches no folder.
+struct Game {
+  explicit Game(const std::string& app_path = "/nonexistent/frostmark")
+      : program(desktop, dice, app_path) {}
+
+  HeadlessDesktop desktop;
+  CountingDice dice;
+  Program program;
+};
+
+// The lines of INPUT as a list.
+inline void FillList(RecordList& list, std::string_view input) {
+  list.Clear();
+  while (!input.empty()) {
+    const std::size_t end = std::min(input.find('\n'), input.size());
+    list.AddItem(std::string(input.substr(0, end)));
+    input.remove_prefix(std::min(end + 1, input.size()));
+  }
+}
+
+}  // namespace frostmark::fuzz
