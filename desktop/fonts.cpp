@@ -6,12 +6,18 @@
 
 namespace frostmark {
 
-void UseShippedFonts() {
+double PlainPoints() {
+  // What the desktop has set, before the application's own font takes its place.
+  static const double users = QApplication::font().pointSizeF();
+  return users * 1.15;
+}
+
+void UseShippedFonts(double zoom) {
+  const double points = PlainPoints() * zoom;
   QFontDatabase::addApplicationFont(":/fonts/barlow/Barlow_400Regular.ttf");
   QFontDatabase::addApplicationFont(":/fonts/barlow/Barlow_600SemiBold.ttf");
   QFont plain("Barlow");
-  // The size stays the one that the user has set for his desktop.
-  plain.setPointSizeF(QApplication::font().pointSizeF() * 1.15);
+  plain.setPointSizeF(points);
   QApplication::setFont(plain);
 }
 

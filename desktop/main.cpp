@@ -32,7 +32,7 @@ int main(int argc, char** argv) {
   QIcon icon;
   for (const char* size : {":/icon-48.png", ":/icon-128.png"}) icon.addFile(size);
   QApplication::setWindowIcon(icon);
-  frostmark::DressApplication();
+  frostmark::DressApplication(frostmark::FittingZoom());
 
   const QByteArray folder = QFile::encodeName(QApplication::applicationDirPath());
   const frostmark::WorldClaim claim(folder.toStdString(), frostmark::WorldClaim::Answers::kYes);

@@ -20,6 +20,7 @@
 #include "desktop/palette.h"
 #include "desktop/screen_form.h"
 #include "desktop/stage.h"
+#include "desktop/style.h"
 #include "desktop/widgets/leave_mark.h"
 #include "desktop/widgets/pin.h"
 #include "ui/screen.h"
@@ -64,6 +65,7 @@ ScreenWindow::ScreenWindow(Screen& screen, Guard& guard, Stage& stage,
   if (screen_.border() == Screen::Border::kNone) MakeFrameless();
   layout->addWidget(form_);
   SetUpForm(screen_, *form_);
+  ZoomLayouts(*form_);
   binder_ = std::make_unique<Binder>(screen_, *form_, guard_);
   DecorateScreen(screen_, *form_);
   OfferWayOut();
@@ -122,7 +124,8 @@ void ScreenWindow::Appear(QWidget* opener) {
   opener_ = opener;
   FocusPrimary();
   FitShadow();
-  const QSize wanted = screen_.IsPopup() ? form_->sizeHint() : Stage::Size();
+  const QSize room = QGuiApplication::primaryScreen()->availableSize() - QSize(0, TitleBar());
+  const QSize wanted = screen_.IsPopup() ? form_->sizeHint().boundedTo(room) : Stage::Size();
   const QMargins shadow = layout()->contentsMargins();
   resize(wanted.expandedTo(form_->minimumSizeHint()).grownBy(shadow));
   Place();
@@ -131,10 +134,17 @@ void ScreenWindow::Appear(QWidget* opener) {
   windowHandle()->setTransientParent(opener->windowHandle());
 }
 
+int ScreenWindow::TitleBar() const {
+  // The window manager's own is not known before the window is there.
+  constexpr int kLines = 2;
+  return screen_.border() == Screen::Border::kNone ? 0 : kLines * fontMetrics().height();
+}
+
 void ScreenWindow::Place() {
+  const QSize outside = size() + QSize(0, TitleBar());
   const QRect place = screen_.IsPopup() && opener_ != nullptr
-                          ? stage_.ForPopup(size(), opener_->geometry())
-                          : stage_.ForScreen(size());
+                          ? stage_.ForPopup(outside, opener_->geometry())
+                          : stage_.ForScreen(outside);
   placed_at_ = place.topLeft();
   move(placed_at_);
 }

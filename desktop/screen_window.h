@@ -50,6 +50,7 @@ class ScreenWindow : public QWidget {
   void Appear(QWidget* opener);
   void Place();
   void FitShadow();
+  int TitleBar() const;
   void FocusPrimary();
   void FocusFirst();
   void Drag(const QMouseEvent& move);

@@ -9,19 +9,8 @@ namespace frostmark {
 namespace {
 
 // The stage in ordinary letters: as little as the fullest pages, results and draft, can do with.
-constexpr double kWidth = 85;
+constexpr double kWidth = 87;
 constexpr double kHeight = 50;
-// Letters much smaller than the user's own would not be read any more.
-constexpr double kLeastZoom = 0.5;
-
-// The height of the application's letters. A font's own metrics are rounded, which the stage should
-// not be.
-double LetterSize() {
-  constexpr double kPointsPerInch = 72;
-  return QApplication::font().pointSizeF() *
-         QGuiApplication::primaryScreen()->logicalDotsPerInchY() / kPointsPerInch;
-}
-
 QRect Room(QPoint at) {
   const QScreen* monitor = QGuiApplication::screenAt(at);
   if (monitor == nullptr) monitor = QGuiApplication::primaryScreen();
@@ -39,13 +28,14 @@ QRect Inside(QRect window, const QRect& room) {
 
 }  // namespace
 
-QSize Stage::Size() { return (QSizeF(kWidth, kHeight) * LetterSize()).toSize(); }
+QSize Stage::Size() { return Size(QApplication::font().pointSizeF()); }
 
-double Stage::FittingZoom(QSize room) {
-  const QSize size = Size();
-  const double across = static_cast<double>(room.width()) / size.width();
-  const double down = static_cast<double>(room.height()) / size.height();
-  return std::clamp(std::min(across, down), kLeastZoom, 1.0);
+QSize Stage::Size(double points) {
+  // A font's own metrics are rounded, which the stage should not be.
+  constexpr double kPointsPerInch = 72;
+  const double letter =
+      points * QGuiApplication::primaryScreen()->logicalDotsPerInchY() / kPointsPerInch;
+  return (QSizeF(kWidth, kHeight) * letter).toSize();
 }
 
 QRect Stage::ForScreen(QSize size) const {

@@ -11,11 +11,10 @@ namespace frostmark {
 // when the user drags a main screen. Popups lie beside the stage.
 class Stage {
  public:
-  // The size of a main screen without its shadow, for the font of the application.
+  // The size of a main screen without its shadow, in the application's letters.
   static QSize Size();
-  // How much smaller the font must be than it is for a main screen to fit into ROOM; 1 where it
-  // fits as it is.
-  static double FittingZoom(QSize room);
+  // The same in letters of POINTS.
+  static QSize Size(double points);
 
   // The place of a main screen's window of SIZE.
   QRect ForScreen(QSize size) const;

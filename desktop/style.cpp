@@ -4,12 +4,16 @@
 #include <QColor>
 #include <QFile>
 #include <QFont>
+#include <QGridLayout>
 #include <QPalette>
+#include <QScreen>
 #include <QStyleFactory>
+#include <algorithm>
 #include <utility>
 
 #include "desktop/fonts.h"
 #include "desktop/palette.h"
+#include "desktop/stage.h"
 
 namespace frostmark {
 namespace {
@@ -23,6 +27,8 @@ constexpr std::pair<const char*, QRgb> kColours[] = {
     {"red", palette::kRed},     {"redBright", palette::kRedBright},
     {"gold", palette::kGold},   {"green", palette::kGreen},
 };
+
+double zoom_now = 1;
 
 // The name that begins at AT in TEXT: as many letters as there are.
 QString NameAt(const QString& text, qsizetype at) {
@@ -86,10 +92,39 @@ QString StyleSheet() {
   return InPoints(sheet + text.mid(done));
 }
 
-void DressApplication() {
+double Zoom() { return zoom_now; }
+
+double FittingZoom() {
+  // Smaller letters would not be read any more.
+  constexpr double kLeast = 0.5;
+  const QSize room = QGuiApplication::primaryScreen()->availableSize();
+  const QSize stage = Stage::Size(PlainPoints());
+  return std::clamp(std::min(static_cast<double>(room.width()) / stage.width(),
+                             static_cast<double>(room.height()) / stage.height()),
+                    kLeast, 1.0);
+}
+
+void ZoomLayouts(const QWidget& form) {
+  if (zoom_now == 1) return;
+  const auto zoomed = [](int space) { return qRound(space * zoom_now); };
+  for (auto* layout : form.findChildren<QLayout*>()) {
+    const QMargins margins = layout->contentsMargins();
+    layout->setContentsMargins(zoomed(margins.left()), zoomed(margins.top()),
+                               zoomed(margins.right()), zoomed(margins.bottom()));
+    if (auto* grid = qobject_cast<QGridLayout*>(layout)) {
+      grid->setHorizontalSpacing(zoomed(grid->horizontalSpacing()));
+      grid->setVerticalSpacing(zoomed(grid->verticalSpacing()));
+    } else {
+      layout->setSpacing(zoomed(layout->spacing()));
+    }
+  }
+}
+
+void DressApplication(double zoom) {
+  zoom_now = zoom;
   QApplication::setStyle(QStyleFactory::create("Fusion"));
   QApplication::setPalette(Colours());
-  UseShippedFonts();
+  UseShippedFonts(zoom);
   qApp->setStyleSheet(StyleSheet());
 }
 

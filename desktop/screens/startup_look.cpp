@@ -6,6 +6,7 @@
 #include "desktop/delegates/player_delegate.h"
 #include "desktop/list_view.h"
 #include "desktop/screen_form.h"
+#include "desktop/stage.h"
 #include "desktop/widgets/pin.h"
 #include "desktop/widgets/roles.h"
 #include "desktop/widgets/room.h"
@@ -46,7 +47,7 @@ void DecorateStartup(Startup& screen, ScreenForm& form) {
   KeepPlaceWhenHidden(Part<QWidget>(form, "HighButton5"));
   auto& scene = Part<TitleScene>(form, "look_scene");
   static_cast<QGridLayout*>(scene.layout())
-      ->setRowMinimumHeight(0, TitleScene::NameHeight(scene.sizeHint().height()));
+      ->setRowMinimumHeight(0, TitleScene::NameHeight(Stage::Size().height()));
   ShowPlayers(Part<ListView>(form, "List1"));
   ShowPlayers(Part<ListView>(form, "List2"));
   new PanelOpening(Part<QWidget>(form, "Frame1"));

@@ -1,7 +1,9 @@
 #include "desktop/widgets/room.h"
 
+#include <QFontMetricsF>
 #include <QStyleOptionViewItem>
 #include <QWidget>
+#include <QtMath>
 
 #include "desktop/delegates/row_painter.h"
 
@@ -12,8 +14,9 @@ void GiveRoom(QWidget& list, int columns, int rows) {
   QStyleOptionViewItem option;
   option.initFrom(&list);
   const int frame = option.fontMetrics.height() / 2;
-  list.setMinimumSize(columns * option.fontMetrics.averageCharWidth() + 2 * frame,
-                      rows * row::Height(option) + frame);
+  // Unrounded: half a pixel a letter is a lot over a whole line of small ones.
+  const double letter = QFontMetricsF(option.font).averageCharWidth();
+  list.setMinimumSize(qCeil(columns * letter) + 2 * frame, rows * row::Height(option) + frame);
 }
 
 }  // namespace frostmark

@@ -243,24 +243,33 @@ QSize TitleScene::sizeHint() const {
 
 int TitleScene::NameHeight(int height) { return static_cast<int>(height * 0.17); }
 
-void TitleScene::paintEvent(QPaintEvent* /*event*/) {
-  const QRectF area(rect());
-  if (crowd_.isNull()) crowd_ = CrowdPiece(HeadSize(area), 16, devicePixelRatioF());
-  QPainter painter(this);
+QPixmap TitleScene::Drawn() const {
+  const QRect area(rect());
+  QPixmap scene(size() * devicePixelRatioF());
+  scene.setDevicePixelRatio(devicePixelRatioF());
+  scene.fill(Qt::transparent);
+  QPainter painter(&scene);
   painter.setRenderHint(QPainter::Antialiasing);
   DrawNight(painter, area);
-  DrawCrowd(painter, area, crowd_);
+  DrawCrowd(painter, area, CrowdPiece(HeadSize(area), 16, devicePixelRatioF()));
   DrawLights(painter, area);
   DrawIce(painter, area);
   DrawBoards(painter, area);
   DrawPuck(painter, area);
   DrawName(painter, area);
   CutCorners(painter, area);
+  return scene;
+}
+
+void TitleScene::paintEvent(QPaintEvent* /*event*/) {
+  // Drawn beside the window, whose shadow lies under the corners that are cut.
+  if (scene_.isNull() || scene_.devicePixelRatio() != devicePixelRatioF()) scene_ = Drawn();
+  QPainter(this).drawPixmap(0, 0, scene_);
 }
 
 void TitleScene::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  crowd_ = QPixmap();
+  scene_ = QPixmap();
 }
 
 }  // namespace frostmark

@@ -24,7 +24,9 @@ class TitleScene : public QWidget {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  QPixmap crowd_;  // the part that takes longest to draw
+  QPixmap Drawn() const;
+
+  QPixmap scene_;  // as it was last drawn
 };
 
 }  // namespace frostmark

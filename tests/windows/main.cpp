@@ -1,13 +1,15 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QFont>
 #include <cstdio>
 #include <cstdlib>
 
 #include "desktop/style.h"
 #include "tests/windows/x_server.h"
 
-// One X server for all tests of the run, as large as FROSTMARK_TEST_SCREEN says. Without the
+// One X server for all tests of the run, as large as FROSTMARK_TEST_SCREEN says, for a user
+// whose font has FROSTMARK_TEST_FONT points. Without the
 // programs for it the run is skipped, which CTest knows by the exit code.
 int main(int argc, char** argv) {
   constexpr int kSkipped = 77;
@@ -21,6 +23,11 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "xcb");
   QApplication application(argc, argv);
   QApplication::setApplicationName("Frostmark");
-  frostmark::DressApplication();
+  if (const char* points = std::getenv("FROSTMARK_TEST_FONT")) {
+    QFont users = QApplication::font();
+    users.setPointSizeF(std::atof(points));
+    QApplication::setFont(users);
+  }
+  frostmark::DressApplication(frostmark::FittingZoom());
   return RUN_ALL_TESTS();
 }

@@ -84,6 +84,7 @@ TEST(WindowContract, AYearIsPlayedOnOneStage) {
       ExpectSamePlace(stage, sitting.Window(program.f_draft));
       sitting.x().Close(sitting.Window(program.f_draft).id);
       // A click on the draft does not bury the choice.
+      sitting.UntilInFront(program.f_select_draft);
       const XWindow choice = sitting.Window(program.f_select_draft);
       sitting.x().Click(sitting.Place(program.f_draft, "XTab1").topLeft() + QPoint(300, 12));
       sitting.UntilInFront(program.f_draft);
