@@ -51,7 +51,7 @@ void Franchise::SaveGame() {
   }
   ordvik.SaveListFile(Alerts, SavedFile(ordvik, Alerts), save);
   // There is a whole game again, so nothing is left of a beginning.
-  if (save.Commit()) UnderWay(ordvik).Clear();
+  if (save.Commit() && !UnderWay(ordvik).IsBuild()) UnderWay(ordvik).Clear();
   // Said in any case: no file operation tells how it went.
   program_.desktop.ShowBox({BoxIcon::kInformation, BoxButtons::kOk, "File saved!"});
 }

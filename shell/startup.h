@@ -69,7 +69,8 @@ class Startup : public Screen {
  private:
   void ClickSingleGame();
   void ClickFranchise();
-  void BuildTeam(const char* rank, int weakest, int strongest);
+  // False when the team has no file.
+  bool BuildTeam(const char* rank, int weakest, int strongest);
 
   Program& program_;
 };

@@ -17,6 +17,7 @@ void UnderWay::MarkBuild() {
 }
 
 void UnderWay::MarkBeginning() {
+  if (IsBuild()) return;  // a franchise does not make its world whole
   (void)ordvik_.files().WriteForGood(ordvik_.SettingsPath(kMark), kBeginning);
 }
 

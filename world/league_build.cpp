@@ -58,24 +58,29 @@ void Startup::BuildLeague() {
   for (const char* nickname : kNicknames) List4.AddItem(nickname);
   UnderWay(program_.ordvik).MarkBuild();
   ForgetLeagueMoves(program_.ordvik);
+  bool whole = true;
   for (const char* rank : kRanks) {
     File1.SetPath(program_.ordvik.RankFolder(rank));
     const int count = File1.ListCount();
     for (int i = 0; i < count; ++i) {
-      Ordvik::DeleteFile(program_.ordvik.TeamPath(rank, File1.List(i)));
+      const std::string team = program_.ordvik.TeamPath(rank, File1.List(i));
+      Ordvik::DeleteFile(team);
+      if (Ordvik::FileExists(team)) whole = false;
       program_.desktop.Yield();
     }
   }
   for (const Band& band : kBands) {
-    for (int team = 0; team < band.teams; ++team)
-      BuildTeam(band.rank, band.weakest, band.strongest);
+    for (int team = 0; team < band.teams; ++team) {
+      if (!BuildTeam(band.rank, band.weakest, band.strongest)) whole = false;
+    }
   }
-  UnderWay(program_.ordvik).Clear();
+  // A world that lacks a team, or has kept one of the world before, cannot be played.
+  if (whole) UnderWay(program_.ordvik).Clear();
   program_.franchise.Season.SetCaption("0");
   program_.franchise.Champion.SetCaption("0");
 }
 
-void Startup::BuildTeam(const char* rank, int weakest, int strongest) {
+bool Startup::BuildTeam(const char* rank, int weakest, int strongest) {
   TeamCreator& creator = program_.team_creator;
   double overall = 0;
   do {
@@ -85,8 +90,10 @@ void Startup::BuildTeam(const char* rank, int weakest, int strongest) {
   } while (overall < weakest || overall > strongest);
   const std::string city = Draw(program_.ordvik, List3);
   const std::string team = city + " " + Draw(program_.ordvik, List4);
-  program_.ordvik.SaveListFile(creator.List1, program_.ordvik.TeamPath(rank, team));
+  const std::string path = program_.ordvik.TeamPath(rank, team);
+  program_.ordvik.SaveListFile(creator.List1, path);
   program_.desktop.Yield();
+  return Ordvik::FileExists(path);
 }
 
 }  // namespace frostmark
