@@ -160,7 +160,7 @@ void Sitting::ChooseInDraft() {
   }
   const std::string open = Ask([&] {
     for (ListPair* list : draft.Pool()) {
-      if ((*list)[0].Enabled()) return (*list)[0].Name();
+      if (list->shown.Enabled()) return list->shown.Name();
     }
     return std::string();
   });
