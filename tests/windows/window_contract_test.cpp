@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QWindow>
 #include <algorithm>
 
 #include "tests/windows/sitting.h"
@@ -15,6 +16,10 @@ TEST(WindowContract, AScreenThatWasMinimizedComesBackInFront) {
     const XWindow window = sitting.Window(franchise);
     sitting.Click(franchise, "Command6");
     sitting.Until("the franchise minimized", [&] { return sitting.Window(franchise).iconic; });
+    // Nobody brings it back before the program has heard of that too.
+    sitting.UntilGame("the franchise out of sight", [&] {
+      return !sitting.game().Window(franchise).windowHandle()->isExposed();
+    });
     sitting.x().Activate(window.id);
     sitting.UntilInFront(franchise);
     sitting.Click(franchise, "HighButton2");
