@@ -136,17 +136,12 @@ bool LeagueMoves::MoveUp(std::size_t border) {
 bool LeagueMoves::MoveDown(std::size_t border) {
   if (!open_[border]) return false;
   open_[border] = Make(Down(ordvik_, borders_[border], border));
-  if (!open_[border]) TakeBack(Up(ordvik_, borders_[border], border));
+  if (!open_[border] && !TakeBack(Up(ordvik_, borders_[border], border))) stuck_ = true;
   return open_[border];
 }
 
 void LeagueMoves::Finish() {
-  for (std::size_t border = 0; border < kBorders; ++border) {
-    if (!planned_[border]) continue;
-    const Border& teams = borders_[border];
-    if (StateOf(Up(ordvik_, teams, border)) != StateOf(Down(ordvik_, teams, border))) return;
-  }
-  RemovePlan(ordvik_);
+  if (!stuck_) RemovePlan(ordvik_);
 }
 
 bool FinishLeagueMoves(Ordvik& ordvik) {

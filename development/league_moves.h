@@ -65,6 +65,8 @@ class LeagueMoves {
   Borders borders_;
   std::array<bool, kBorders> planned_{};
   std::array<bool, kBorders> open_{};
+  // Not read off the files: a team of the same name in another league may stand where one has left.
+  bool stuck_ = false;
 };
 
 // Makes the moves of a season's end that was cut off. A border that cannot be finished is taken
