@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "desktop/access.h"
 #include "desktop/screen_window.h"
 #include "desktop/ticker.h"
 #include "ui/controls.h"
@@ -43,6 +44,7 @@ QtDesktop::QtDesktop(std::function<void(int code)> leave)
     : leave_(std::move(leave)), guard_([this](const std::string& text) { EndByError(text); }) {
   // A closed message box would count as the last window while all screens are hidden.
   QApplication::setQuitOnLastWindowClosed(false);
+  InstallAccess();
 }
 
 QtDesktop::~QtDesktop() = default;

@@ -9,6 +9,7 @@
 #include "desktop/list_view.h"
 #include "desktop/screen_form.h"
 #include "desktop/screens/own_team.h"
+#include "desktop/screens/spoken_news.h"
 #include "desktop/widgets/glow_frame.h"
 #include "desktop/widgets/room.h"
 #include "draft/f_draft.h"
@@ -65,6 +66,7 @@ void DecorateFDraft(FDraft& screen, ScreenForm& form) {
   const auto show_turn = [&screen, &form, own_team] { ShowTurn(screen, form, own_team()); };
   show_turn();
   QObject::connect(&form, &ScreenForm::Refreshed, &form, show_turn);
+  TellTurn(screen, form);
 }
 
 }  // namespace frostmark

@@ -9,6 +9,7 @@
 #include "desktop/palette.h"
 #include "desktop/screen_form.h"
 #include "desktop/screens/own_team.h"
+#include "desktop/screens/spoken_news.h"
 #include "desktop/widgets/fate_label.h"
 #include "desktop/widgets/room.h"
 #include "draft/f_results.h"
@@ -51,6 +52,7 @@ void DecorateFResults(FResults& screen, ScreenForm& form) {
   };
   mark_own();
   QObject::connect(&form, &ScreenForm::Refreshed, &form, mark_own);
+  TellChampion(screen, form);
 
   for (std::size_t i = 0; i < kTables.size(); ++i) {
     const League league = i == 0                    ? League::kTop

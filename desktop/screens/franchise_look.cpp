@@ -11,6 +11,7 @@
 #include "desktop/palette.h"
 #include "desktop/screen_form.h"
 #include "desktop/screens/own_team.h"
+#include "desktop/screens/spoken_news.h"
 #include "desktop/widgets/focus_keeper.h"
 #include "desktop/widgets/room.h"
 #include "shell/franchise.h"
@@ -82,6 +83,7 @@ void DecorateFranchise(Franchise& screen, ScreenForm& form) {
   keeper->Add(begin);
   keeper->Add(Part<QPushButton>(form, "Command2"));
   begin.setFocus();
+  TellOwnResult(screen, form);
 }
 
 }  // namespace frostmark

@@ -7,6 +7,7 @@
 #include "desktop/fonts.h"
 #include "desktop/list_view.h"
 #include "desktop/screen_form.h"
+#include "desktop/screens/spoken_news.h"
 #include "desktop/widgets/pin.h"
 #include "desktop/widgets/rink_view.h"
 #include "desktop/widgets/roles.h"
@@ -74,6 +75,7 @@ void DecorateGame(Game& screen, ScreenForm& form) {
                      SetLook(team == 1 ? *home : *visitor, "lit", lit);
                    });
   new Commentator(screen, form, rink);
+  TellPlay(screen, form);
 }
 
 }  // namespace frostmark
