@@ -11,21 +11,21 @@ namespace frostmark {
 namespace {
 
 // It shows nothing, so that nobody would ever be told of it if it went by what is seen.
-class AnnouncerAccess : public QAccessibleWidget {
+class AnnouncementAccess : public QAccessibleWidget {
  public:
-  explicit AnnouncerAccess(Announcer& announcer)
-      : QAccessibleWidget(&announcer, QAccessible::Notification) {}
+  explicit AnnouncementAccess(Announcement& announcement)
+      : QAccessibleWidget(&announcement, QAccessible::Notification) {}
 
   QAccessible::State state() const override {
     QAccessible::State state = QAccessibleWidget::state();
-    state.invisible = false;
+    state.invisible = widget()->accessibleName().isEmpty();
     return state;
   }
 };
 
 QAccessibleInterface* AccessTo(const QString& /*class_name*/, QObject* object) {
   if (auto* list = qobject_cast<ListView*>(object)) return new ListAccess(*list);
-  if (auto* announcer = qobject_cast<Announcer*>(object)) return new AnnouncerAccess(*announcer);
+  if (auto* news = qobject_cast<Announcement*>(object)) return new AnnouncementAccess(*news);
   if (auto* window = qobject_cast<ScreenWindow*>(object)) {
     return new QAccessibleWidget(window, QAccessible::Window);
   }

@@ -6,7 +6,7 @@
 
 namespace frostmark {
 
-void Announcer::Say(const QString& text) {
+void Announcement::Say(const QString& text) {
   // A screen reader speaks a notification when it comes up; so the last one goes first.
   QAccessibleEvent gone(this, QAccessible::ObjectHide);
   QAccessible::updateAccessibility(&gone);
@@ -15,13 +15,23 @@ void Announcer::Say(const QString& text) {
   QAccessible::updateAccessibility(&come);
 }
 
+Announcer::Announcer(ScreenForm& form) : QObject(&form) {
+  for (Announcement*& announcement : kept_) {
+    announcement = new Announcement(&form);
+    announcement->setObjectName("look_announcement");
+    announcement->resize(0, 0);
+    announcement->hide();
+  }
+}
+
+void Announcer::Say(const QString& text) {
+  kept_[next_]->Say(text);
+  next_ = (next_ + 1) % kKept;
+}
+
 void Announce(ScreenForm& form, const QString& text) {
   auto* announcer = form.findChild<Announcer*>();
-  if (announcer == nullptr) {
-    announcer = new Announcer(&form);
-    announcer->setObjectName("look_announcer");
-    announcer->hide();
-  }
+  if (announcer == nullptr) announcer = new Announcer(form);
   announcer->Say(text);
 }
 
