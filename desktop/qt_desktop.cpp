@@ -55,7 +55,9 @@ void QtDesktop::Open(ScreenList& screens) {
     screen->SetObserver(this);
     for (Control* control : screen->Controls()) {
       if (control->Kind() != ControlKind::kTimer) continue;
-      tickers_.push_back(std::make_unique<Ticker>(static_cast<Timer&>(*control), guard_));
+      auto& timer = static_cast<Timer&>(*control);
+      const std::chrono::milliseconds interval(timer.IntervalMs());
+      tickers_.push_back(std::make_unique<Ticker>(timer, guard_, interval));
     }
   }
 }

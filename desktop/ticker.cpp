@@ -4,9 +4,10 @@
 
 namespace frostmark {
 
-Ticker::Ticker(Timer& timer, Guard& guard) : timer_(timer), guard_(guard) {
+Ticker::Ticker(Timer& timer, Guard& guard, std::chrono::milliseconds interval)
+    : timer_(timer), guard_(guard) {
   clock_.setTimerType(Qt::PreciseTimer);
-  clock_.setInterval(timer_.IntervalMs());
+  clock_.setInterval(interval);
   connect(&clock_, &QTimer::timeout, this, &Ticker::Tick);
   timer_.SetObserver(this);
 }

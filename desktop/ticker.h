@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTimer>
+#include <chrono>
 
 #include "ui/controls.h"
 
@@ -14,7 +15,7 @@ class Ticker : public QObject, public Control::Observer {
   Q_OBJECT
 
  public:
-  Ticker(Timer& timer, Guard& guard);
+  Ticker(Timer& timer, Guard& guard, std::chrono::milliseconds interval);
 
   void ControlChanged(Control& control) override;
 
