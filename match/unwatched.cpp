@@ -1,6 +1,7 @@
 #include <utility>
 
 #include "match/game_simulation.h"
+#include "records/pair_search.h"
 #include "shell/program.h"
 
 namespace frostmark {
@@ -13,6 +14,7 @@ constexpr int kShotDue = 0;
 
 // Positions are looked for in the whole record, so a name with the two capitals in it counts too.
 bool Plays(const std::string& record, std::string_view position) {
+  if (position.size() == 2) return ContainsPair(record, position);
   return Ordvik::ContainsText(1, record, position);
 }
 
@@ -23,7 +25,7 @@ Int16 Rating(const std::string& record, Field field) {
 void CopyLeadLine(UiQueue& queue, const RecordList& roster, RecordList& line) {
   const int count = roster.ListCount();
   for (int i = 0; i < count; ++i) {
-    if (FieldView(roster.List(i), Field::kTraining) == "N") line.AddItem(roster.List(i));
+    if (FieldView(roster.List(i), Field::kTraining) == "N") line.AddItemOf(roster, i);
     queue.Yield();
   }
 }
@@ -63,8 +65,8 @@ void GameSimulation::LoadIceLists() {
   // The team with the puck sets the length of both: a shorter line leaves empty items behind.
   const RecordList& leading = PuckTeam == 1 ? lists.Line1Stats : lists.Line2Stats;
   for (int i = leading.ListCount() - 1; i >= 0; --i) {
-    first.AddItem(lists.Line1Stats.List(i));
-    second.AddItem(lists.Line2Stats.List(i));
+    first.AddItemOf(lists.Line1Stats, i);
+    second.AddItemOf(lists.Line2Stats, i);
     program_.desktop.Yield();
   }
 }

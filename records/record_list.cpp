@@ -15,26 +15,35 @@ namespace {
 
 const std::string RecordList::kNoItem;
 
+void RecordList::Text::Write(std::string_view text) {
+  if (shared_ != nullptr && shared_->owners == 1) {
+    shared_->text.assign(text);
+    return;
+  }
+  auto* fresh = new Shared{std::string(text)};
+  Release();  // only now: TEXT may be a view of what is let go
+  shared_ = fresh;
+}
+
 void RecordList::SetList(int i, std::string_view item) {
   if (i < 0 || i >= count_) FailOutside(i);
-  items_[static_cast<std::size_t>(i)].assign(item);
+  items_[static_cast<std::size_t>(i)].Write(item);
   if (observer_ != nullptr) observer_->ItemChanged(i);
 }
 
-void RecordList::Grow(std::string_view item) {
+void RecordList::AddItem(std::string_view item) {
   if (count_ == kMostItems) return;
-  items_.emplace_back(item);
-  ++count_;
+  if (static_cast<std::size_t>(count_) == items_.size()) items_.emplace_back();
+  items_[static_cast<std::size_t>(count_++)].Write(item);
   if (observer_ != nullptr) observer_->ItemInserted(count_ - 1);
 }
 
 void RecordList::AddItem(std::string_view item, int index) {
   if (index < 0 || index > count_) FailOutside(index);
   if (count_ == kMostItems) return;
-  const std::string copy(item);  // ITEM may be one of those that are about to move
   if (static_cast<std::size_t>(count_) == items_.size()) items_.emplace_back();
+  items_[static_cast<std::size_t>(count_)].Write(item);
   std::rotate(items_.begin() + index, items_.begin() + count_, items_.begin() + count_ + 1);
-  items_[static_cast<std::size_t>(index)] = copy;
   ++count_;
   if (selected_ >= index) ++selected_;
   if (observer_ != nullptr) observer_->ItemInserted(index);

@@ -26,7 +26,7 @@ bool HeadlessDesktop::RunAtYield() {
 
 void HeadlessDesktop::Yield() {
   ++yields_;
-  RunAtYield();
+  if (!at_yield_.empty()) RunAtYield();
 }
 
 void HeadlessDesktop::Wait() { WaitFor(kForever); }

@@ -3,6 +3,7 @@
 #include <array>
 #include <set>
 
+#include "records/pair_search.h"
 #include "tests/unit/game_fixture.h"
 
 namespace frostmark::testing {
@@ -59,6 +60,21 @@ TEST_F(ChanceTest, RollUpToAsksTheDiceOnceAndCounts) {
   EXPECT_EQ(ordvik().RollUpTo(5), 5);
   EXPECT_EQ(dice().Asked(), (std::vector<int>{6, 5}));
   EXPECT_EQ(ordvik().counts().rolls, 2);
+}
+
+TEST(ContainsTextTest, FindsAPairOfLettersAtEachPlaceOfTextsOfEachLength) {
+  for (std::size_t length = 2; length < 120; ++length) {
+    const std::string text(length, 'R');
+    EXPECT_FALSE(Ordvik::ContainsText(1, text, "RF")) << length;
+    EXPECT_FALSE(Ordvik::ContainsText(1, text, "FR")) << length;
+    for (std::size_t at = 0; at + 2 <= length; ++at) {
+      std::string with = text;
+      with.replace(at, 2, "CF");
+      EXPECT_TRUE(Ordvik::ContainsText(1, with, "CF")) << length << " at " << at;
+      EXPECT_TRUE(ContainsPair(with, "CF")) << length << " at " << at;
+      EXPECT_FALSE(ContainsPair(with, "FC")) << length << " at " << at;
+    }
+  }
 }
 
 TEST(ContainsTextTest, LooksFromAOneBasedPositionOnAndMindsCase) {

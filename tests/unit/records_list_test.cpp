@@ -60,6 +60,46 @@ TEST(RecordListTest, InsertsACopyOfItsOwnItem) {
   EXPECT_EQ(ItemsOf(list), (Lines{"three", "one", "two", "three"}));
 }
 
+TEST(RecordListTest, AnItemOfAnotherListIsACopyUntilOneOfThemIsWritten) {
+  RecordList roster;
+  RecordList line;
+  FillList(roster, {"one", "two"});
+  line.AddItemOf(roster, 1);
+  line.AddItemOf(roster, 7);  // no such item: the empty text
+  line.AddItemOf(line, 0);
+  EXPECT_EQ(ItemsOf(line), (Lines{"two", "", "two"}));
+  roster.SetList(1, "changed");
+  line.SetList(2, "written");
+  EXPECT_EQ(ItemsOf(roster), (Lines{"one", "changed"}));
+  EXPECT_EQ(ItemsOf(line), (Lines{"two", "", "written"}));
+  roster.Clear();
+  EXPECT_EQ(line.List(0), "two");
+}
+
+TEST(RecordListTest, ARefilledListWritesIntoNoTextThatItHasLent) {
+  RecordList roster;
+  RecordList line;
+  FillList(roster, {"one", "two"});
+  line.AddItemOf(roster, 0);
+  roster.Clear();
+  FillList(roster, {"three"});
+  EXPECT_EQ(ItemsOf(line), (Lines{"one"}));
+  line.Clear();
+  line.AddItem("four");
+  line.AddItemOf(roster, 0);
+  EXPECT_EQ(ItemsOf(roster), (Lines{"three"}));
+  EXPECT_EQ(ItemsOf(line), (Lines{"four", "three"}));
+}
+
+TEST(RecordListTest, AFullListTakesNoLentItem) {
+  RecordList roster;
+  FillList(roster, {"one"});
+  RecordList full;
+  for (int i = 0; i < RecordList::kMostItems; ++i) full.AddItemOf(roster, 0);
+  full.AddItemOf(roster, 0);
+  EXPECT_EQ(full.ListCount(), RecordList::kMostItems);
+}
+
 TEST(RecordListTest, RemovalMovesLaterItemsUp) {
   RecordList list;
   FillList(list, {"a", "b", "c"});
