@@ -8,6 +8,7 @@
 #include <QPalette>
 #include <QScreen>
 #include <QStyleFactory>
+#include <QWidget>
 #include <algorithm>
 #include <utility>
 
