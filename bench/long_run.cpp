@@ -7,6 +7,7 @@
 
 #include "bench/figures.h"
 #include "bench/world_for_bench.h"
+#include "records/leagues.h"
 #include "season/week_table.h"
 
 namespace frostmark {

@@ -4,6 +4,8 @@
 #include <filesystem>
 #include <stdexcept>
 
+#include "records/leagues.h"
+
 namespace frostmark {
 namespace {
 

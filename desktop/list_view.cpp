@@ -14,6 +14,11 @@ ListView::ListView(QWidget* parent) : QListView(parent) {
   setMouseTracking(true);
 }
 
+void ListView::LetRowsGrow() {
+  setUniformItemSizes(false);
+  setResizeMode(Adjust);  // a row's height follows from the width of the list
+}
+
 void ListView::ShowSelected(int row) {
   if (row == SelectedRow()) return;
   if (row < 0) {

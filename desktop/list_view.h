@@ -16,6 +16,9 @@ class ListView : public QListView {
   // Shows item ROW as selected, none for -1, without saying that it was chosen.
   void ShowSelected(int row);
 
+  // Gives each row the height that its delegate asks for, instead of one height to all.
+  void LetRowsGrow();
+
  signals:
   void Chosen(int row);
   // BY_KEY: no click came before it.

@@ -10,7 +10,6 @@
 namespace frostmark {
 namespace {
 
-constexpr int kTeamsOfLeague = 6;
 constexpr std::string_view kPlan = "unfinished.moves";
 constexpr std::string_view kHeading = "frostmark moves";
 constexpr std::string_view kEnd = "end";
@@ -57,7 +56,7 @@ bool IsOpen(const Ordvik& ordvik, const LeagueMoves::Border& teams, std::size_t 
   if (up == down) return true;
   int surplus = 0;  // of teams above the border
   for (std::size_t league = border + 1; league < sizes.size(); ++league) {
-    surplus += sizes[league] - kTeamsOfLeague;
+    surplus += sizes[league] - kTeamsInLeague;
   }
   return surplus == (up == State::kDone ? 1 : -1);
 }

@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <string>
 
+#include "records/leagues.h"
 #include "records/ordvik.h"
-#include "records/player_record.h"
 
 namespace frostmark {
 

@@ -3,6 +3,8 @@
 #include <cmath>
 
 #include "development/league_moves.h"
+#include "records/leagues.h"
+#include "records/lines/standings_line.h"
 #include "shell/program.h"
 
 namespace frostmark {
@@ -24,7 +26,7 @@ std::string NumberText(double value) {
 
 // "" for a table that has lost the line.
 std::string TeamAt(const RecordList& standings, int place) {
-  return TeamOfLine(standings.List(place));
+  return std::string(StandingsParts(standings.List(place)).team);
 }
 
 LeagueMoves PlannedMoves(Ordvik& ordvik, Franchise& franchise) {

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <cmath>
 
+#include "records/leagues.h"
 #include "records/runtime_error.h"
 #include "shell/program.h"
 

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "records/leagues.h"
 #include "ui/controls.h"
 #include "ui/screen.h"
 
@@ -49,7 +50,7 @@ class FDraft : public Screen {
   std::string ReleasedPlayer;
 
   // The pool in its fixed order, and the position of each pair.
-  static constexpr std::array<const char*, 6> kPositions = {"GO", "LD", "RD", "LF", "CF", "RF"};
+  static constexpr PositionOrder kPositions = kDraftOrder;
   std::array<ListPair*, 6> Pool() { return {&List1, &List2, &List3, &List4, &List5, &List6}; }
   // The pair of POSITION, or nullptr when it is none of the six.
   ListPair* Pool(std::string_view position);

@@ -1,3 +1,5 @@
+#include "records/lines/history_line.h"
+#include "records/lines/player_line.h"
 #include "shell/program.h"
 
 namespace frostmark {
@@ -22,20 +24,15 @@ void FSelectDraft::ConnectRelease() {
 }
 
 void FDraft::AddRetirement(const std::string& record) {
-  Events.AddItem("(" + HockeyNaming::GetField(record, "Position") + ") " +
-                 HockeyNaming::GetField(record, "Name") + " has retired from " + CurTeam.Caption() +
-                 " at " + HockeyNaming::GetField(record, "Age") + " years old");
+  Events.AddItem(FormatRetirement(record, CurTeam.Caption()));
 }
 
 void FDraft::AddRelease(const std::string& record) {
-  Events.AddItem(CurTeam.Caption() + " lost (" + HockeyNaming::GetField(record, "Position") + ") " +
-                 HockeyNaming::GetField(record, "Name") +
-                 ". Overall: " + HockeyNaming::GetField(record, "Overall"));
+  Events.AddItem(FormatRelease(record, CurTeam.Caption()));
 }
 
 void FDraft::AddPick(const std::string& record) {
-  Events.AddItem(CurTeam.Caption() + " has added " + HockeyNaming::GetField(record, "Name") +
-                 " to the team. Overall: " + HockeyNaming::GetField(record, "Overall"));
+  Events.AddItem(FormatPick(record, CurTeam.Caption()));
 }
 
 // On the user's side the leaver's Training is forgotten: his new man always comes as "N", and it is
@@ -54,7 +51,7 @@ void FDraft::StartPlayerTurn() {
   }
   const int count = tempList.ListCount();
   for (int i = 0; i < count; ++i) {
-    choice.List1.AddItem(RosterLine(tempList.List(i)));
+    choice.List1.AddItem(FormatRosterLine(tempList.List(i)));
     choice.List2.AddItem(tempList.List(i));
     program_.desktop.Yield();
   }

@@ -1,3 +1,4 @@
+#include "records/lines/pool_line.h"
 #include "shell/program.h"
 
 namespace frostmark {
@@ -30,7 +31,7 @@ void FDraft::SetPoolEnabled(bool enabled) {
 void FDraft::ShowPoolLines(ListPair& list) {
   const int count = list.records.ListCount();
   for (int i = 0; i < count; ++i) {
-    list.shown.AddItem(PoolLine(list.records.List(i)));
+    list.shown.AddItem(FormatPoolLine(list.records.List(i)));
     program_.desktop.Yield();
   }
 }

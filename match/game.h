@@ -1,9 +1,9 @@
 #pragma once
 
-#include <initializer_list>
 #include <string>
 #include <string_view>
 
+#include "records/lines/play_line.h"
 #include "records/numbers.h"
 #include "ui/controls.h"
 #include "ui/screen.h"
@@ -96,7 +96,7 @@ class Game : public Screen {
 
  private:
   // match/watched_periods.cpp
-  void TickEarlyPeriod(ProgressBar& period, Timer& timer, const char* end_line);
+  void TickEarlyPeriod(ProgressBar& period, Timer& timer, Play end);
   void AnnounceResult();
   void ShowOwnResult();
 
@@ -108,12 +108,12 @@ class Game : public Screen {
   void FaceOff();
   std::string FindCentre(const RecordList& line);
   void NotePasser();
-  void PassAlong(const char* passes);
+  void PassAlong(Play pass);
   void MeetDefender(std::string_view position, Int16& defense);
   void Goal();
-  void TurnOver(const char* how);
-  // Puts the joined TEXTS on top of the play-by-play.
-  void Report(std::initializer_list<std::string_view> texts);
+  void TurnOver(Play how);
+  // Puts LINE on top of the play-by-play.
+  void Report(const PlayLine& line);
 
   Program& program_;
 };

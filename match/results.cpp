@@ -1,3 +1,5 @@
+#include "records/lines/news_line.h"
+#include "records/lines/standings_line.h"
 #include "shell/program.h"
 
 namespace frostmark {
@@ -74,15 +76,11 @@ void Franchise::ShowOwnResult(const std::string& name1, const std::string& name2
 }
 
 void Franchise::AddAlert(const std::string& name1, const std::string& name2) {
-  const std::string score1 = std::to_string(Score1);
-  const std::string score2 = std::to_string(Score2);
-  if (Score1 > Score2) {
-    Alerts.AddItem(name1 + " beat " + name2 + " " + score1 + " to " + score2, 0);
-  } else if (Score2 > Score1) {
-    Alerts.AddItem(name1 + " lost to " + name2 + " " + score1 + " to " + score2, 0);
-  } else {
-    Alerts.AddItem(name1 + " tied " + name2 + " at " + score1, 0);
-  }
+  const Outcome outcome = Score1 > Score2   ? Outcome::kBeat
+                          : Score2 > Score1 ? Outcome::kLost
+                                            : Outcome::kTied;
+  Alerts.AddItem(
+      FormatNewsLine({name1, outcome, name2, std::to_string(Score1), std::to_string(Score2)}), 0);
 }
 
 void Franchise::SetStandings(RecordList& list, const std::string& name1, const std::string& name2) {
@@ -110,16 +108,6 @@ void Franchise::SetStandings(RecordList& list, const std::string& name1, const s
 
 namespace {
 
-// Part INDEX of TEXT split at every "-"; empty when there are fewer.
-std::string_view DashPart(std::string_view text, int index) {
-  for (; index > 0; --index) {
-    const std::size_t dash = text.find('-');
-    if (dash == std::string_view::npos) return {};
-    text.remove_prefix(dash + 1);
-  }
-  return text.substr(0, text.find('-'));
-}
-
 Int16 CountOf(std::string_view part) {
   std::string digits(part);
   std::erase(digits, '(');
@@ -129,11 +117,10 @@ Int16 CountOf(std::string_view part) {
 }  // namespace
 
 std::string HockeyNaming::CountResult(std::string_view line, std::string_view kind) {
-  Int16 wins = CountOf(DashPart(line, 0));
-  Int16 losses = CountOf(DashPart(line, 1));
-  const std::string_view last = DashPart(line, 2);
-  const std::size_t bracket = last.find(')');
-  Int16 ties = CountOf(bracket == std::string_view::npos ? "" : last.substr(0, bracket));
+  const StandingsLine parts = StandingsParts(line);
+  Int16 wins = CountOf(parts.wins);
+  Int16 losses = CountOf(parts.losses);
+  Int16 ties = CountOf(parts.ties);
   if (kind == "Win") {
     wins += 1;
   } else if (kind == "Lose") {
@@ -143,8 +130,7 @@ std::string HockeyNaming::CountResult(std::string_view line, std::string_view ki
   } else {
     return {};
   }
-  return "(" + std::to_string(wins) + "-" + std::to_string(losses) + "-" + std::to_string(ties) +
-         ") " + TeamOfLine(line);
+  return FormatStandingsLine(wins, losses, ties, parts.team);
 }
 
 // The walk goes upward on purpose while the lines move up behind it: of the old news every second

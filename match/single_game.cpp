@@ -1,3 +1,4 @@
+#include "records/leagues.h"
 #include "shell/program.h"
 
 namespace frostmark {

@@ -19,11 +19,7 @@ std::string_view NameOf(const std::string& record) { return FieldView(record, Fi
 
 }  // namespace
 
-void Game::Report(std::initializer_list<std::string_view> texts) {
-  std::string line;
-  for (const std::string_view text : texts) line += text;
-  Events.AddItem(line, 0);
-}
+void Game::Report(const PlayLine& line) { Events.AddItem(FormatPlayLine(line), 0); }
 
 void Game::LoadIceLists() {
   LineList.Clear();
@@ -59,7 +55,7 @@ void Game::PlayStep() {
       PuckPosition = forward == 1 ? "LF" : forward == 2 ? "CF" : "RF";
     }
   }
-  PassAlong(" passes it to ");
+  PassAlong(Play::kPass);
   PassesLeft -= 1;
 }
 
@@ -73,12 +69,12 @@ void Game::NotePasser() {
 
 // Every player at the position takes over in turn and is reported, so without a position, in the
 // first game of a run, the puck goes all along the line in one step.
-void Game::PassAlong(const char* passes) {
+void Game::PassAlong(Play pass) {
   const int count = LineList.ListCount();
   for (int i = 0; i < count; ++i) {
     if (Plays(LineList.List(i), PuckPosition)) {
       PuckCarrier = LineList.List(i);
-      Report({PasserName, passes, NameOf(PuckCarrier)});
+      Report({pass, PasserName, NameOf(PuckCarrier)});
     }
     program_.desktop.Yield();
   }
@@ -103,7 +99,7 @@ void Game::FaceOff() {
   PuckCarrier = first_wins ? centre1 : centre2;
   PuckTeam = first_wins ? 1 : 2;
   LoadIceLists();
-  Report({NameOf(PuckCarrier), " wins the face off!"});
+  Report({Play::kFaceOff, NameOf(PuckCarrier)});
   PassesLeft = program_.ordvik.RollUpTo(6);
 }
 
@@ -116,7 +112,7 @@ void Game::OutletStep() {
     const int forward = program_.ordvik.RollUpTo(3);
     PuckPosition = forward == 1 ? "RF" : forward == 2 ? "CF" : "LF";
   }
-  PassAlong(" passes the puck to ");
+  PassAlong(Play::kOutletPass);
   PassesLeft = program_.ordvik.RollUpTo(4);
 }
 
@@ -142,11 +138,11 @@ void Game::ShotStep() {
   // A shot by nobody has no Shooting to read, and that ends the program.
   const int shooting = StrictInt16(FieldView(PuckCarrier, Field::kShooting));
   if (shot > shooting) return;
-  if (ordvik.RollUpTo(110) <= defense) return TurnOver(" steals the puck from ");
+  if (ordvik.RollUpTo(110) <= defense) return TurnOver(Play::kSteal);
   ordvik.RollUpTo(100);  // the puck on its way to the goalie: rolled, and used by nothing
   MeetDefender("GO", defense);
   if (ordvik.RollUpTo(100) > defense) return;
-  if (ordvik.RollUpTo(105) <= defense) return TurnOver(" blocks a shot from ");
+  if (ordvik.RollUpTo(105) <= defense) return TurnOver(Play::kSave);
   Goal();
 }
 
@@ -156,11 +152,11 @@ void Game::Goal() {
     score.SetCaption(WholeNumberText(LenientNumber(score.Caption()) + 1));
   }
   PassesLeft = kFaceOffDue;
-  Report({NameOf(PuckCarrier), " SCORES! Assist by: ", PasserName});
+  Report({Play::kGoal, NameOf(PuckCarrier), PasserName});
 }
 
-void Game::TurnOver(const char* how) {
-  Report({NameOf(Defender), how, NameOf(PuckCarrier)});
+void Game::TurnOver(Play how) {
+  Report({how, NameOf(Defender), NameOf(PuckCarrier)});
   PasserName = NameOf(PuckCarrier);
   PuckCarrier = Defender;
   PuckTeam = PuckTeam == 1 ? 2 : 1;

@@ -29,19 +29,19 @@ void Game::PressStart() {
   FaceOff();
 }
 
-void Game::TickPeriod1() { TickEarlyPeriod(Period1, Timer1, "End of the first period!"); }
+void Game::TickPeriod1() { TickEarlyPeriod(Period1, Timer1, Play::kFirstPeriod); }
 
-void Game::TickPeriod2() { TickEarlyPeriod(Period2, Timer2, "End of the second period!"); }
+void Game::TickPeriod2() { TickEarlyPeriod(Period2, Timer2, Play::kSecondPeriod); }
 
 // The line is written at every tick on purpose, at the bottom, out of sight under the play-by-play
 // that grows from the top.
-void Game::TickEarlyPeriod(ProgressBar& period, Timer& timer, const char* end_line) {
+void Game::TickEarlyPeriod(ProgressBar& period, Timer& timer, Play end) {
   if (period.Value() == period.Max()) {
     HighButton1.Show();
     timer.Disable();
     return;
   }
-  Events.AddItem(end_line);
+  Events.AddItem(FormatPlayLine({end}));
   period.SetValue(period.Value() + 1);
   PlayStep();
 }
@@ -62,13 +62,13 @@ void Game::TickPeriod3() {
 void Game::AnnounceResult() {
   const std::string home = Goals(1).Caption();
   const std::string visitor = Goals(2).Caption();
-  Report({"The match has ended in an amazing battle!"});
+  Report({Play::kMatchEnd});
   if (home > visitor) {
-    Report({GHome.Caption(), " beat ", GVisitor.Caption(), " ", home, " to ", visitor});
+    Report({Play::kWin, GHome.Caption(), GVisitor.Caption(), home, visitor});
   } else if (visitor > home) {
-    Report({GVisitor.Caption(), " beat ", GHome.Caption(), " ", visitor, " to ", home});
+    Report({Play::kWin, GVisitor.Caption(), GHome.Caption(), visitor, home});
   } else {
-    Report({GHome.Caption(), " tied the game with ", GVisitor.Caption(), " at ", home});
+    Report({Play::kTie, GHome.Caption(), GVisitor.Caption(), home});
   }
 }
 

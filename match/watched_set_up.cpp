@@ -1,5 +1,7 @@
 #include <array>
 
+#include "records/leagues.h"
+#include "records/lines/player_line.h"
 #include "shell/program.h"
 
 namespace frostmark {
@@ -9,10 +11,8 @@ namespace {
 struct Side {
   ListBox& records;
   ListBox& lines;
-  std::array<Label*, 6> chips;  // in the order of kChipPositions
+  std::array<Label*, kPositionCount> chips;  // in the order of kRosterOrder
 };
-
-constexpr std::array<std::string_view, 6> kChipPositions = {"GO", "RD", "LD", "RF", "CF", "LF"};
 
 void SetUpLine(UiQueue& queue, const RecordList& roster, const Side& side) {
   const int count = roster.ListCount();
@@ -22,10 +22,9 @@ void SetUpLine(UiQueue& queue, const RecordList& roster, const Side& side) {
       const std::string position(FieldView(record, Field::kPosition));
       const std::string overall(FieldView(record, Field::kOverall));
       side.records.AddItem(record);
-      side.lines.AddItem(position + " - " + HockeyNaming::GetField(record, "Name") + " (" +
-                         overall + ")");
-      for (std::size_t chip = 0; chip < kChipPositions.size(); ++chip) {
-        if (position == kChipPositions[chip]) side.chips[chip]->SetCaption(overall);
+      side.lines.AddItem(FormatLineUpLine(record));
+      for (std::size_t chip = 0; chip < kRosterOrder.size(); ++chip) {
+        if (position == kRosterOrder[chip]) side.chips[chip]->SetCaption(overall);
       }
     }
     queue.Yield();

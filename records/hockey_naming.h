@@ -3,9 +3,9 @@
 #include <string>
 #include <string_view>
 
+#include "records/lines/player_record.h"
 #include "records/numbers.h"
 #include "records/ordvik.h"
-#include "records/player_record.h"
 #include "records/record_list.h"
 #include "records/ui_queue.h"
 

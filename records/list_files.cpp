@@ -1,6 +1,6 @@
 #include "records/item_reader.h"
+#include "records/lines/player_record.h"
 #include "records/ordvik.h"
-#include "records/player_record.h"
 
 namespace frostmark {
 namespace {

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "records/hockey_naming.h"
-#include "records/player_record.h"
+#include "records/lines/player_record.h"
 
 namespace frostmark {
 namespace {

@@ -3,7 +3,8 @@
 #include <vector>
 
 #include "records/hockey_naming.h"
-#include "records/player_record.h"
+#include "records/lines/player_record.h"
+#include "records/lines/standings_line.h"
 
 namespace frostmark {
 namespace {
@@ -40,12 +41,11 @@ struct WinsAndLosses {
   double losses;
 };
 
+// Read leniently, with the first character of the line, its bracket, left out.
 WinsAndLosses ReadWinsAndLosses(std::string_view line) {
-  const std::size_t first = std::min(line.find('-'), line.size());
-  const std::size_t second = std::min(line.find('-', first + 1), line.size());
-  const std::string_view wins = line.substr(0, first);
-  const std::string_view losses = line.substr(0, second).substr(std::min(first + 1, second));
-  return {LenientNumber(wins.substr(std::min<std::size_t>(1, first))), LenientNumber(losses)};
+  StandingsLine parts = StandingsParts(line);
+  if (!parts.wins.empty()) parts.wins.remove_prefix(1);
+  return {LenientNumber(parts.wins), LenientNumber(parts.losses)};
 }
 
 }  // namespace

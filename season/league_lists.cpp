@@ -1,3 +1,5 @@
+#include "records/leagues.h"
+#include "records/lines/standings_line.h"
 #include "shell/program.h"
 
 namespace frostmark {
@@ -13,7 +15,7 @@ void Franchise::LoadNewTeams() {
     for (int i = 0; i < count; ++i) {
       if (File1.List(i) == TeamName.Caption()) MyRank.SetCaption(kRanks[league]);
       names.AddItem(File1.List(i));
-      standings.AddItem(FreshTeamLine(File1.List(i)));
+      standings.AddItem(FormatFreshStandingsLine(File1.List(i)));
       program_.desktop.Yield();
     }
   }

@@ -1,15 +1,11 @@
 #include <algorithm>
 
+#include "records/leagues.h"
+#include "records/lines/standings_line.h"
 #include "season/week_table.h"
 #include "shell/program.h"
 
 namespace frostmark {
-namespace {
-
-std::string LetterOf(const char* rank) { return {rank[5]}; }
-
-}  // namespace
-
 void Franchise::GenSchedule() {
   NextWeek.SetCaption("Week 1");
   for (std::size_t league = 0; league < kRanks.size(); ++league) {
@@ -21,7 +17,7 @@ void Franchise::GenSchedule() {
     const int count = File1.ListCount();
     for (int i = 0; i < count; ++i) {
       names.AddItem(File1.List(i));
-      standings.AddItem(FreshTeamLine(File1.List(i)));
+      standings.AddItem(FormatFreshStandingsLine(File1.List(i)));
       program_.desktop.Yield();
     }
   }

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 
+#include "records/leagues.h"
 #include "season/week_table.h"
 #include "shell/program.h"
 
@@ -54,12 +55,11 @@ void Franchise::PressBegin() {
 }
 
 bool Franchise::LineUpAccepted() {
-  constexpr std::array<std::string_view, 6> kPositions = {"GO", "LD", "RD", "RF", "CF", "LF"};
-  std::array<int, kPositions.size()> players{};
+  std::array<int, kPositionCount> players{};
   const int count = MainList.ListCount();
   for (int i = 0; i < count; ++i) {
-    for (std::size_t p = 0; p < kPositions.size(); ++p) {
-      if (FieldView(MainList.List(i), Field::kPosition) == kPositions[p]) ++players[p];
+    for (std::size_t p = 0; p < kRosterOrder.size(); ++p) {
+      if (FieldView(MainList.List(i), Field::kPosition) == kRosterOrder[p]) ++players[p];
     }
     program_.desktop.Yield();
   }
@@ -84,7 +84,7 @@ void Franchise::SetButtonsEnabled(bool enabled) {
 void Franchise::PlayGamesOfWeek(int week) {
   for (std::size_t league = 0; league < kRanks.size(); ++league) {
     const ListBox& names = *RankLists()[league];
-    const std::string letter(1, kRanks[league][5]);
+    const std::string letter = LetterOf(kRanks[league]);
     for (const Fixture& game : FixturesOf(week)) {
       // Copies: the lists may change while the game is played.
       const std::string first = names.List(game.first);

@@ -1,3 +1,4 @@
+#include "records/lines/player_line.h"
 #include "shell/program.h"
 #include "shell/under_way.h"
 
@@ -44,8 +45,8 @@ void Startup::PressGenerate() {
   List2.Clear();
   for (int i = team.ListCount() - 1; i >= 0; --i) {
     const std::string_view training = FieldView(team.List(i), Field::kTraining);
-    if (training == "N") List1.AddItem(PanelLine(team.List(i)));
-    if (training == "Y") List2.AddItem(PanelLine(team.List(i)));
+    if (training == "N") List1.AddItem(FormatPanelLine(team.List(i)));
+    if (training == "Y") List2.AddItem(FormatPanelLine(team.List(i)));
   }
 }
 

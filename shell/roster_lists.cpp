@@ -1,3 +1,4 @@
+#include "records/lines/player_line.h"
 #include "shell/program.h"
 
 namespace frostmark {
@@ -10,10 +11,10 @@ void Franchise::AddToRoster(const std::string& record) {
   const std::string_view training = FieldView(record, Field::kTraining);
   if (training == "N") {
     MainList.AddItem(record);
-    MainRoster.AddItem(RosterLine(record));
+    MainRoster.AddItem(FormatRosterLine(record));
   } else if (training == "Y") {
     TrainList.AddItem(record);
-    TrainingRoster.AddItem(RosterLine(record));
+    TrainingRoster.AddItem(FormatRosterLine(record));
   }
 }
 

@@ -4,6 +4,7 @@
 #include <system_error>
 #include <vector>
 
+#include "records/leagues.h"
 #include "records/whole_file.h"
 #include "shell/program.h"
 #include "shell/under_way.h"

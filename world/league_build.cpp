@@ -2,6 +2,7 @@
 #include <limits>
 
 #include "development/league_moves.h"
+#include "records/leagues.h"
 #include "shell/program.h"
 #include "shell/under_way.h"
 

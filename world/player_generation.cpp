@@ -1,3 +1,4 @@
+#include "records/leagues.h"
 #include "shell/program.h"
 #include "world/name_lists.h"
 
@@ -8,7 +9,7 @@ TeamCreator::TeamCreator(Program& program)
       program_(program) {
   for (const char* name : GivenNames()) List2.AddItem(name);
   for (const char* name : FamilyNames()) List3.AddItem(name);
-  for (const char* position : {"GO", "RD", "LD", "RF", "CF", "LF"}) List4.AddItem(position);
+  for (const char* position : kRosterOrder) List4.AddItem(position);
 }
 
 void TeamCreator::ConnectTeamCreator() {
@@ -49,16 +50,9 @@ std::string HockeyNaming::GenPlayerName() {
 
 std::string HockeyNaming::GeneratedRecord(std::string_view name, std::string_view position,
                                           std::string_view training) const {
-  std::string record(name);
-  record += ',';
-  record += position;
-  for (const int number : {CurOverall, CurPassing, CurShooting, CurDefense, CurAgility, CurAge}) {
-    record += ',';
-    record += std::to_string(number);
-  }
-  record += ',';
-  record += training;
-  return record;
+  return FormatPlayerRecord({name, position, std::to_string(CurOverall), std::to_string(CurPassing),
+                             std::to_string(CurShooting), std::to_string(CurDefense),
+                             std::to_string(CurAgility), std::to_string(CurAge), training});
 }
 
 void TeamCreator::MakePlayer(int position, const char* training) {

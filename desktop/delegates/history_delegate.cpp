@@ -3,10 +3,11 @@
 #include <QPainter>
 #include <utility>
 
-#include "desktop/delegates/history_line.h"
 #include "desktop/delegates/row_painter.h"
+#include "desktop/delegates/row_text.h"
 #include "desktop/palette.h"
 #include "desktop/widgets/place_mark.h"
+#include "records/lines/history_line.h"
 
 namespace frostmark {
 
@@ -28,8 +29,21 @@ QColor SignColor(Event event) {
   return FateColor(Fate::kChampion);
 }
 
+// TEXT with two of its parts bold, FIRST before SECOND.
+std::vector<row::Run> Runs(std::string_view text, std::string_view first, std::string_view second) {
+  const auto start = [&](std::string_view part) {
+    return static_cast<std::size_t>(part.data() - text.data());
+  };
+  const std::size_t first_end = start(first) + first.size();
+  return {{Shown(text.substr(0, start(first)))},
+          {Shown(first), true},
+          {Shown(text.substr(first_end, start(second) - first_end))},
+          {Shown(second), true},
+          {Shown(text.substr(start(second) + second.size()))}};
+}
+
 // A plus for a player taken, a minus for one let go, a flag for one who retired.
-void PaintSign(QPainter& painter, const QRectF& rect, Event event) {
+void PaintEvent(QPainter& painter, const QRectF& rect, Event event) {
   painter.setPen(Qt::NoPen);
   painter.setBrush(SignColor(event));
   painter.drawEllipse(rect);
@@ -50,51 +64,36 @@ void PaintSign(QPainter& painter, const QRectF& rect, Event event) {
   if (event == Event::kAdded) painter.drawLine(center - QPointF(0, arm), center + QPointF(0, arm));
 }
 
-void PaintHistory(QPainter& painter, const QStyleOptionViewItem& option, const HistoryLine& line,
-                  bool own) {
-  if (own) row::PaintOwn(painter, option);
-  const double margin = row::Margin(option);
-  const double size = SignSize(option);
-  QRectF sign(0, 0, size, size);
-  sign.moveCenter(
-      QPointF(option.rect.left() + margin * 1.3 + size / 2, QRectF(option.rect).center().y()));
-  PaintSign(painter, sign, line.event);
-
-  QRectF rest = QRectF(option.rect).adjusted(0, 0, -margin, 0);
-  rest.setLeft(sign.right() + margin);
-  const QColor color = own || option.state & QStyle::State_Selected ? row::TextColor(option)
-                                                                    : row::QuietColor(option);
-  row::PaintRuns(painter, rest,
-                 {{line.before},
-                  {line.team_first ? line.team : line.player, true},
-                  {line.between},
-                  {line.team_first ? line.player : line.team, true},
-                  {line.after}},
-                 color);
-}
-
 }  // namespace
 
 HistoryDelegate::HistoryDelegate(std::function<QString()> own_team, QObject* parent)
-    : QStyledItemDelegate(parent), own_team_(std::move(own_team)) {}
+    : ParagraphDelegate(parent), own_team_(std::move(own_team)) {}
 
-void HistoryDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
-                            const QModelIndex& index) const {
-  QStyleOptionViewItem prepared = option;
-  initStyleOption(&prepared, index);
-  painter->save();
-  row::PaintGround(*painter, prepared);
-  if (const auto line = ParseHistoryLine(prepared.text)) {
-    PaintHistory(*painter, prepared, *line, line->team == own_team_());
-  } else {
-    row::PaintPlain(*painter, prepared, prepared.text);
-  }
-  painter->restore();
+double HistoryDelegate::Indent(const QStyleOptionViewItem& option) const {
+  return row::Margin(option) * 2.3 + SignSize(option);
 }
 
-QSize HistoryDelegate::sizeHint(const QStyleOptionViewItem& option,
-                                const QModelIndex& /*index*/) const {
-  return {0, row::Height(option)};
+void HistoryDelegate::PaintSign(QPainter& painter, const QStyleOptionViewItem& option) const {
+  const std::string text = option.text.toStdString();
+  const auto line = ParseHistoryLine(text);
+  if (!line) return;
+  if (Shown(line->team) == own_team_()) row::PaintOwn(painter, option);
+  const double size = SignSize(option);
+  QRectF sign(0, 0, size, size);
+  sign.moveCenter(QPointF(option.rect.left() + row::Margin(option) * 1.3 + size / 2,
+                          QRectF(option.rect).center().y()));
+  PaintEvent(painter, sign, line->event);
+}
+
+HistoryDelegate::Sentence HistoryDelegate::SentenceOf(const QStyleOptionViewItem& option) const {
+  const std::string text = option.text.toStdString();
+  const auto line = ParseHistoryLine(text);
+  if (!line) return {};
+  const bool loud = option.state & QStyle::State_Selected || Shown(line->team) == own_team_();
+  const bool team_first = line->team.data() < line->player.data();
+  return {
+      Runs(text, team_first ? line->team : line->player, team_first ? line->player : line->team),
+      loud ? row::TextColor(option) : row::QuietColor(option)};
 }
 
 }  // namespace frostmark

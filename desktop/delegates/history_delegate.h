@@ -1,22 +1,24 @@
 #pragma once
 
-#include <QStyledItemDelegate>
 #include <functional>
+
+#include "desktop/delegates/paragraph_delegate.h"
 
 namespace frostmark {
 
-// Draws a line of the draft's history behind a sign for what happened: a player retired, was let go
+// Draws a line of the draft's history beside a sign for what happened: a player retired, was let go
 // or was taken. The lines of the user's own team stand out.
-class HistoryDelegate : public QStyledItemDelegate {
+class HistoryDelegate : public ParagraphDelegate {
   Q_OBJECT
 
  public:
   // OWN_TEAM is asked at every painting.
   HistoryDelegate(std::function<QString()> own_team, QObject* parent);
 
-  void paint(QPainter* painter, const QStyleOptionViewItem& option,
-             const QModelIndex& index) const override;
-  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+ protected:
+  Sentence SentenceOf(const QStyleOptionViewItem& option) const override;
+  double Indent(const QStyleOptionViewItem& option) const override;
+  void PaintSign(QPainter& painter, const QStyleOptionViewItem& option) const override;
 
  private:
   std::function<QString()> own_team_;

@@ -1,17 +1,19 @@
 #include "desktop/delegates/lineup_delegate.h"
 
 #include <QPainter>
-#include <QRegularExpression>
+#include <algorithm>
 
 #include "desktop/delegates/row_painter.h"
+#include "desktop/delegates/row_text.h"
 #include "desktop/widgets/position_badge.h"
 #include "desktop/widgets/rating_painter.h"
+#include "records/lines/player_line.h"
 
 namespace frostmark {
 namespace {
 
 void PaintPlayer(QPainter& painter, const QStyleOptionViewItem& option, const QString& position,
-                 const QString& name, int overall) {
+                 const QString& name, const QString& overall) {
   const double gap = row::Margin(option);
   QRectF rest = QRectF(option.rect).adjusted(gap, 0, -gap, 0);
   QRectF badge(rest.topLeft(), PositionBadgeSize(QFontMetricsF(option.font)));
@@ -24,38 +26,31 @@ void PaintPlayer(QPainter& painter, const QStyleOptionViewItem& option, const QS
   painter.setFont(bold);
   QRectF number = rest;
   number.setLeft(rest.right() - QFontMetricsF(bold).horizontalAdvance("999"));
-  row::PaintText(painter, number, QString::number(overall), row::TextColor(option), Qt::AlignRight);
+  row::PaintText(painter, number, overall, row::TextColor(option), Qt::AlignRight);
   painter.setFont(option.font);
 
-  QRectF bar(0, 0, rest.width() * 0.3, option.fontMetrics.height() * 0.45);
+  // What a long name leaves.
+  const double room =
+      number.left() - rest.left() - QFontMetricsF(option.font).horizontalAdvance(name);
+  QRectF bar(0, 0, std::clamp(room - 3 * gap, 0.0, rest.width() * 0.3),
+             option.fontMetrics.height() * 0.45);
   bar.moveRight(number.left() - gap);
   bar.moveTop(rest.center().y() - bar.height() / 2);
-  PaintRatingBar(painter, bar, overall);
+  PaintRatingBar(painter, bar, overall.toInt());
   rest.setRight(bar.left() - gap);
   row::PaintText(painter, rest, name, row::TextColor(option));
 }
 
 }  // namespace
 
-void LineupDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
-                           const QModelIndex& index) const {
-  static const QRegularExpression kForm(QStringLiteral(R"(^([A-Z]{2}) - (.*) \((\d{1,3})\)$)"));
-  QStyleOptionViewItem prepared = option;
-  initStyleOption(&prepared, index);
-  painter->save();
-  row::PaintGround(*painter, prepared);
-  if (const auto player = kForm.match(prepared.text); player.hasMatch()) {
-    PaintPlayer(*painter, prepared, player.captured(1), player.captured(2),
-                player.captured(3).toInt());
-  } else {
-    row::PaintPlain(*painter, prepared, prepared.text);
-  }
-  painter->restore();
-}
-
-QSize LineupDelegate::sizeHint(const QStyleOptionViewItem& option,
-                               const QModelIndex& /*index*/) const {
-  return {0, row::Height(option) * 3 / 2};
+bool LineupDelegate::PaintRow(QPainter& painter, const QStyleOptionViewItem& option,
+                              const QModelIndex& /*index*/) const {
+  const std::string text = option.text.toStdString();
+  const auto player = ParsePlayerLine(text);
+  if (!player || !player->age.empty()) return false;
+  PaintPlayer(painter, option, Shown(player->position), Shown(player->name),
+              Shown(player->overall));
+  return true;
 }
 
 }  // namespace frostmark

@@ -1,19 +1,19 @@
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "desktop/delegates/row_delegate.h"
 
 namespace frostmark {
 
 // Draws a player of a line that is about to play, "CF - James Smith (85)": badge, name, rating.
-class LineupDelegate : public QStyledItemDelegate {
+class LineupDelegate : public RowDelegate {
   Q_OBJECT
 
  public:
-  using QStyledItemDelegate::QStyledItemDelegate;
+  using RowDelegate::RowDelegate;
 
-  void paint(QPainter* painter, const QStyleOptionViewItem& option,
-             const QModelIndex& index) const override;
-  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+ protected:
+  bool PaintRow(QPainter& painter, const QStyleOptionViewItem& option,
+                const QModelIndex& index) const override;
 };
 
 }  // namespace frostmark

@@ -3,9 +3,10 @@
 #include <QPainter>
 #include <utility>
 
-#include "desktop/delegates/news_line.h"
 #include "desktop/delegates/row_painter.h"
+#include "desktop/delegates/row_text.h"
 #include "desktop/widgets/place_mark.h"
+#include "records/lines/news_line.h"
 
 namespace frostmark {
 
@@ -13,58 +14,46 @@ namespace {
 
 double DiscSize(const QStyleOptionViewItem& option) { return option.fontMetrics.height() * 0.6; }
 
-QColor OutcomeColor(const NewsLine& line, const QString& own_team) {
-  if (line.verb == NewsLine::Verb::kTied) return FateColor(Fate::kStays);
-  return FateColor(line.WonBy(own_team) ? Fate::kGoesUp : Fate::kGoesDown);
-}
-
-void PaintNews(QPainter& painter, const QStyleOptionViewItem& option, const NewsLine& line,
-               const QString& own_team) {
-  const bool own = line.Has(own_team);
-  const double margin = row::Margin(option);
-  const double size = DiscSize(option);
-  QRectF disc(0, 0, size, size);
-  disc.moveCenter(
-      QPointF(option.rect.left() + margin + size / 2, QRectF(option.rect).center().y()));
-  if (own) {
-    row::PaintOwn(painter, option);
-    painter.setBrush(OutcomeColor(line, own_team));
-    painter.drawEllipse(disc.translated(margin * 0.3, 0));
-  }
-  const QRectF rest = QRectF(option.rect).adjusted(2 * margin + size, 0, -margin, 0);
-  const QColor color = own || option.state & QStyle::State_Selected ? row::TextColor(option)
-                                                                    : row::QuietColor(option);
-  row::PaintRuns(painter, rest,
-                 {{line.first, line.WonBy(line.first)},
-                  {line.verb_text},
-                  {line.second, line.WonBy(line.second)},
-                  {" "},
-                  {line.score, own}},
-                 color);
+QColor OutcomeColor(const NewsLine& news, std::string_view own_team) {
+  if (news.outcome == Outcome::kTied) return FateColor(Fate::kStays);
+  return FateColor(news.WonBy(own_team) ? Fate::kGoesUp : Fate::kGoesDown);
 }
 
 }  // namespace
 
 NewsDelegate::NewsDelegate(std::function<QString()> own_team, QObject* parent)
-    : QStyledItemDelegate(parent), own_team_(std::move(own_team)) {}
+    : ParagraphDelegate(parent), own_team_(std::move(own_team)) {}
 
-void NewsDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
-                         const QModelIndex& index) const {
-  QStyleOptionViewItem prepared = option;
-  initStyleOption(&prepared, index);
-  painter->save();
-  row::PaintGround(*painter, prepared);
-  if (const auto line = ParseNewsLine(prepared.text)) {
-    PaintNews(*painter, prepared, *line, own_team_());
-  } else {
-    row::PaintPlain(*painter, prepared, prepared.text);
-  }
-  painter->restore();
+double NewsDelegate::Indent(const QStyleOptionViewItem& option) const {
+  return 2 * row::Margin(option) + DiscSize(option);
 }
 
-QSize NewsDelegate::sizeHint(const QStyleOptionViewItem& option,
-                             const QModelIndex& /*index*/) const {
-  return {0, row::Height(option)};
+void NewsDelegate::PaintSign(QPainter& painter, const QStyleOptionViewItem& option) const {
+  const std::string text = option.text.toStdString();
+  const std::string own_team = own_team_().toStdString();
+  const auto news = ParseNewsLine(text);
+  if (!news || !news->Has(own_team)) return;
+  row::PaintOwn(painter, option);
+  const double size = DiscSize(option);
+  QRectF disc(0, 0, size, size);
+  disc.moveCenter(QPointF(option.rect.left() + row::Margin(option) * 1.3 + size / 2,
+                          QRectF(option.rect).center().y()));
+  painter.setBrush(OutcomeColor(*news, own_team));
+  painter.drawEllipse(disc);
+}
+
+NewsDelegate::Sentence NewsDelegate::SentenceOf(const QStyleOptionViewItem& option) const {
+  const std::string text = option.text.toStdString();
+  const auto news = ParseNewsLine(text);
+  if (!news) return {};
+  const bool own = news->Has(own_team_().toStdString());
+  return {{{Shown(news->first), news->WonBy(news->first)},
+           {Shown(NewsVerb(news->outcome))},
+           {Shown(news->second), news->WonBy(news->second)},
+           {" "},
+           {Shown(NewsScore(*news)), own}},
+          own || option.state & QStyle::State_Selected ? row::TextColor(option)
+                                                       : row::QuietColor(option)};
 }
 
 }  // namespace frostmark

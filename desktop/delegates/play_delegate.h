@@ -1,25 +1,20 @@
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "desktop/delegates/paragraph_delegate.h"
 
 namespace frostmark {
 
-// What a line of the play-by-play tells.
-enum class Play { kPass, kFaceOff, kSteal, kSave, kGoal, kPeriodEnd, kResult, kOther };
-
-Play PlayOf(const QString& line);
-
-// Draws a line of the play-by-play on two lines of text, with a sign of what happened in front. The
-// text is the list's own, broken between words.
-class PlayDelegate : public QStyledItemDelegate {
+// Draws a line of the play-by-play with a sign of what happened in front.
+class PlayDelegate : public ParagraphDelegate {
   Q_OBJECT
 
  public:
-  using QStyledItemDelegate::QStyledItemDelegate;
+  using ParagraphDelegate::ParagraphDelegate;
 
-  void paint(QPainter* painter, const QStyleOptionViewItem& option,
-             const QModelIndex& index) const override;
-  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+ protected:
+  Sentence SentenceOf(const QStyleOptionViewItem& option) const override;
+  double Indent(const QStyleOptionViewItem& option) const override;
+  void PaintSign(QPainter& painter, const QStyleOptionViewItem& option) const override;
 };
 
 }  // namespace frostmark

@@ -1,14 +1,17 @@
 #include "desktop/delegates/player_delegate.h"
 
+#include <QAbstractItemModel>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
 
-#include "desktop/delegates/player_line.h"
 #include "desktop/delegates/row_painter.h"
+#include "desktop/delegates/row_text.h"
 #include "desktop/palette.h"
 #include "desktop/widgets/position_badge.h"
 #include "desktop/widgets/rating_painter.h"
+#include "records/lines/player_line.h"
+#include "records/lines/pool_line.h"
 
 namespace frostmark {
 
@@ -35,9 +38,9 @@ struct Columns {
       : gap(row::Margin(option)),
         badge(PositionBadgeSize(QFontMetricsF(option.font))),
         number(TwoDigits(Bold(option.font))),
-        name(option.fontMetrics.averageCharWidth() * 20.0),
+        name(option.fontMetrics.averageCharWidth() * 18.0),
         age(TwoDigits(option.font)),
-        shortest_bar(option.fontMetrics.averageCharWidth() * 5.0),
+        shortest_bar(option.fontMetrics.averageCharWidth() * 3.0),
         longest_bar(option.fontMetrics.averageCharWidth() * 16.0) {}
 
   double gap;
@@ -49,68 +52,81 @@ struct Columns {
   double longest_bar;
 };
 
-void PaintPlayer(QPainter& painter, const QStyleOptionViewItem& option, const PlayerLine& player) {
+std::optional<PlayerLine> ParseAnyPlayer(std::string_view text) {
+  auto player = ParsePlayerLine(text);
+  return player ? player : ParsePoolLine(text);
+}
+
+double WidestName(const QAbstractItemModel& players, const QFont& font) {
+  const QFontMetricsF metrics(font);
+  double widest = 0;
+  for (int i = 0; i < players.rowCount(); ++i) {
+    const std::string text = players.index(i, 0).data().toString().toStdString();
+    const auto player = ParseAnyPlayer(text);
+    if (player) widest = std::max(widest, metrics.horizontalAdvance(Shown(player->name)));
+  }
+  return std::ceil(widest) + 1;
+}
+
+void PaintPlayer(QPainter& painter, const QStyleOptionViewItem& option, const PlayerLine& player,
+                 double widest_name) {
   const Columns columns(option);
   QRectF rest = QRectF(option.rect).adjusted(columns.gap, 0, -columns.gap, 0);
 
-  if (!player.position.isEmpty()) {
+  if (!player.position.empty()) {
     QRectF badge(rest.topLeft(), columns.badge);
     badge.moveTop(rest.center().y() - badge.height() / 2);
-    PaintPositionBadge(painter, badge, player.position);
+    PaintPositionBadge(painter, badge, Shown(player.position));
     rest.setLeft(badge.right() + columns.gap);
   }
 
   QRectF age = rest;
   age.setLeft(rest.right() - columns.age);
-  row::PaintText(painter, age, QString::number(player.age), row::QuietColor(option),
-                 Qt::AlignRight);
+  row::PaintText(painter, age, Shown(player.age), row::QuietColor(option), Qt::AlignRight);
 
   QRectF number = rest;
   number.setRight(age.left() - columns.gap);
   number.setLeft(number.right() - columns.number);
   painter.setFont(Bold(option.font));
-  row::PaintText(painter, number, QString::number(player.overall), row::TextColor(option),
-                 Qt::AlignRight);
+  row::PaintText(painter, number, Shown(player.overall), row::TextColor(option), Qt::AlignRight);
   painter.setFont(option.font);
 
   // The bars of a list are all of one length, so that they can be compared: it depends on the room
-  // that the row leaves beside an ordinary name, never on the name in it.
-  const double room = number.left() - rest.left() - 2 * columns.gap;
+  // that the row leaves beside an ordinary name or the longest of the list, never on the name in
+  // it.
+  const int overall = Shown(player.overall).toInt();
+  const double room = number.left() - rest.left() - columns.gap * 1.4;
   const double bar_width =
-      std::clamp(room - columns.name, columns.shortest_bar, columns.longest_bar);
+      std::clamp(room - std::max(columns.name, widest_name), 0.0, columns.longest_bar);
+  if (bar_width < columns.shortest_bar) {
+    // A stump would tell nothing: the number alone does.
+    rest.setRight(number.left() - columns.gap * 0.7);
+    row::PaintText(painter, rest, Shown(player.name), row::TextColor(option));
+    return;
+  }
   QRectF bar(0, 0, bar_width, option.fontMetrics.height() * 0.45);
   bar.moveRight(number.left() - columns.gap * 0.7);
   bar.moveTop(rest.center().y() - bar.height() / 2);
   if (option.state & QStyle::State_Selected) {
     // The blues of the bars would be lost on the blue of the selection.
-    PaintShare(painter, bar, RatingShare(player.overall), palette::kIce);
+    PaintShare(painter, bar, RatingShare(overall), palette::kIce);
   } else {
-    PaintRatingBar(painter, bar, player.overall);
+    PaintRatingBar(painter, bar, overall);
   }
 
   rest.setRight(bar.left() - columns.gap * 0.7);
-  row::PaintText(painter, rest, player.name, row::TextColor(option));
+  row::PaintText(painter, rest, Shown(player.name), row::TextColor(option));
 }
 
 }  // namespace
 
-void PlayerDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
-                           const QModelIndex& index) const {
-  QStyleOptionViewItem prepared = option;
-  initStyleOption(&prepared, index);
-  painter->save();
-  row::PaintGround(*painter, prepared);
-  if (const auto player = ParsePlayerLine(prepared.text)) {
-    PaintPlayer(*painter, prepared, *player);
-  } else {
-    row::PaintPlain(*painter, prepared, prepared.text);
-  }
-  painter->restore();
-}
-
-QSize PlayerDelegate::sizeHint(const QStyleOptionViewItem& option,
-                               const QModelIndex& /*index*/) const {
-  return {0, qRound(row::Height(option) * row_stretch_)};
+bool PlayerDelegate::PaintRow(QPainter& painter, const QStyleOptionViewItem& option,
+                              const QModelIndex& index) const {
+  const std::string text = option.text.toStdString();
+  const auto player = ParseAnyPlayer(text);
+  if (!player) return false;
+  PaintPlayer(painter, option, *player, WidestName(*index.model(), option.font));
+  return true;
 }
 
 }  // namespace frostmark

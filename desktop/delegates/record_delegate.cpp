@@ -3,56 +3,48 @@
 #include <QPainter>
 
 #include "desktop/delegates/row_painter.h"
+#include "desktop/delegates/row_text.h"
 #include "desktop/widgets/position_badge.h"
+#include "records/lines/player_record.h"
 
 namespace frostmark {
 namespace {
 
-constexpr int kFields = 9;
-constexpr int kName = 0;
-constexpr int kPosition = 1;
-constexpr int kOverall = 2;
+QString Text(const PlayerFields& fields, Field field) {
+  return Shown(fields[static_cast<std::size_t>(field)]);
+}
 
-void PaintRecord(QPainter& painter, const QStyleOptionViewItem& option, const QStringList& fields) {
+void PaintRecord(QPainter& painter, const QStyleOptionViewItem& option,
+                 const PlayerFields& fields) {
   const double gap = row::Margin(option);
   QRectF rest = QRectF(option.rect).adjusted(gap, 0, -gap, 0);
   QRectF badge(rest.topLeft(), PositionBadgeSize(QFontMetricsF(option.font)));
   badge.moveTop(rest.center().y() - badge.height() / 2);
-  PaintPositionBadge(painter, badge, fields[kPosition]);
+  PaintPositionBadge(painter, badge, Text(fields, Field::kPosition));
   rest.setLeft(badge.right() + gap);
 
   const double column = QFontMetricsF(option.font).horizontalAdvance("000") + gap;
-  for (int i = kFields - 1; i >= kOverall; --i) {
+  for (int i = kFieldCount - 1; i >= static_cast<int>(Field::kOverall); --i) {
+    const auto of = static_cast<Field>(i);
     QRectF field = rest;
     field.setLeft(rest.right() - column);
-    row::PaintText(painter, field, fields[i],
-                   i == kOverall ? row::TextColor(option) : row::QuietColor(option),
+    row::PaintText(painter, field, Text(fields, of),
+                   of == Field::kOverall ? row::TextColor(option) : row::QuietColor(option),
                    Qt::AlignRight);
     rest.setRight(field.left());
   }
-  row::PaintText(painter, rest, fields[kName], row::TextColor(option));
+  row::PaintText(painter, rest, Text(fields, Field::kName), row::TextColor(option));
 }
 
 }  // namespace
 
-void RecordDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
-                           const QModelIndex& index) const {
-  QStyleOptionViewItem prepared = option;
-  initStyleOption(&prepared, index);
-  painter->save();
-  row::PaintGround(*painter, prepared);
-  const QStringList fields = prepared.text.split(',');
-  if (fields.size() == kFields) {
-    PaintRecord(*painter, prepared, fields);
-  } else {
-    row::PaintPlain(*painter, prepared, prepared.text);
-  }
-  painter->restore();
-}
-
-QSize RecordDelegate::sizeHint(const QStyleOptionViewItem& option,
-                               const QModelIndex& /*index*/) const {
-  return {0, row::Height(option)};
+bool RecordDelegate::PaintRow(QPainter& painter, const QStyleOptionViewItem& option,
+                              const QModelIndex& /*index*/) const {
+  const std::string text = option.text.toStdString();
+  const auto fields = ParsePlayerRecord(text);
+  if (!fields) return false;
+  PaintRecord(painter, option, *fields);
+  return true;
 }
 
 }  // namespace frostmark

@@ -1,19 +1,19 @@
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "desktop/delegates/row_delegate.h"
 
 namespace frostmark {
 
 // Draws a whole player record with its nine fields in columns.
-class RecordDelegate : public QStyledItemDelegate {
+class RecordDelegate : public RowDelegate {
   Q_OBJECT
 
  public:
-  using QStyledItemDelegate::QStyledItemDelegate;
+  using RowDelegate::RowDelegate;
 
-  void paint(QPainter* painter, const QStyleOptionViewItem& option,
-             const QModelIndex& index) const override;
-  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+ protected:
+  bool PaintRow(QPainter& painter, const QStyleOptionViewItem& option,
+                const QModelIndex& index) const override;
 };
 
 }  // namespace frostmark

@@ -3,7 +3,9 @@
 #include <QApplication>
 #include <QPainter>
 #include <QStyle>
+#include <QTextLayout>
 #include <QWidget>
+#include <algorithm>
 
 #include "desktop/palette.h"
 
@@ -47,28 +49,72 @@ QColor QuietColor(const QStyleOptionViewItem& option) {
   return color;
 }
 
+namespace {
+CutWatch* watch_now = nullptr;
+}  // namespace
+
+CutWatch::CutWatch() { watch_now = this; }
+CutWatch::~CutWatch() { watch_now = nullptr; }
+
+void NoteCut() {
+  if (watch_now != nullptr) watch_now->any_ = true;
+}
+
 void PaintText(QPainter& painter, const QRectF& rect, const QString& text, const QColor& color,
                Qt::Alignment alignment) {
   painter.setPen(color);
   const QString fitting =
       QFontMetricsF(painter.font()).elidedText(text, Qt::ElideRight, rect.width());
+  if (fitting != text) NoteCut();
   painter.drawText(rect, static_cast<int>(alignment | Qt::AlignVCenter) | Qt::TextSingleLine,
                    fitting);
 }
 
-void PaintRuns(QPainter& painter, const QRectF& rect, const std::vector<Run>& runs,
-               const QColor& color) {
-  const QFont font = painter.font();
-  QRectF rest = rect;
+namespace {
+
+// Lays RUNS out and returns their height.
+double LayOut(QTextLayout& layout, double width, const std::vector<Run>& runs) {
+  QList<QTextLayout::FormatRange> formats;
+  QString text;
   for (const Run& run : runs) {
-    QFont own = font;
-    if (run.bold) own.setWeight(QFont::DemiBold);
-    painter.setFont(own);
-    PaintText(painter, rest, run.text, color);
-    rest.setLeft(rest.left() + QFontMetricsF(own).horizontalAdvance(run.text));
-    if (rest.width() <= 0) break;
+    if (run.bold) {
+      QTextLayout::FormatRange range{
+          static_cast<int>(text.size()), static_cast<int>(run.text.size()), {}};
+      range.format.setFontWeight(QFont::DemiBold);
+      formats.append(range);
+    }
+    text += run.text;
   }
-  painter.setFont(font);
+  layout.setText(text);
+  layout.setFormats(formats);
+  QTextOption between_words;
+  between_words.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  layout.setTextOption(between_words);
+  layout.beginLayout();
+  double height = 0;
+  for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+    line.setLineWidth(std::max(1.0, width));
+    line.setPosition(QPointF(0, height));
+    height += line.height();
+  }
+  layout.endLayout();
+  return height;
+}
+
+}  // namespace
+
+double ParagraphHeight(double width, const std::vector<Run>& runs, const QFont& font) {
+  QTextLayout layout(QString(), font);
+  return LayOut(layout, width, runs);
+}
+
+void PaintParagraph(QPainter& painter, const QRectF& rect, const std::vector<Run>& runs,
+                    const QFont& font, const QColor& color) {
+  QTextLayout layout(QString(), font);
+  const double height = LayOut(layout, rect.width(), runs);
+  if (height > rect.height() + 1) NoteCut();
+  painter.setPen(color);
+  layout.draw(&painter, QPointF(rect.left(), rect.center().y() - height / 2));
 }
 
 void PaintOwn(QPainter& painter, const QStyleOptionViewItem& option) {

@@ -27,6 +27,20 @@ void PaintGround(QPainter& painter, const QStyleOptionViewItem& option);
 QColor TextColor(const QStyleOptionViewItem& option);
 QColor QuietColor(const QStyleOptionViewItem& option);
 
+// Notes while it lives whether a text has been cut.
+class CutWatch {
+ public:
+  CutWatch();
+  ~CutWatch();
+  CutWatch(const CutWatch&) = delete;
+  CutWatch& operator=(const CutWatch&) = delete;
+  bool Any() const { return any_; }
+
+ private:
+  friend void NoteCut();
+  bool any_ = false;
+};
+
 // Draws TEXT into RECT on one line, with dots at its end where it does not fit.
 void PaintText(QPainter& painter, const QRectF& rect, const QString& text, const QColor& color,
                Qt::Alignment alignment = Qt::AlignLeft);
@@ -37,9 +51,13 @@ struct Run {
   bool bold = false;
 };
 
-// Draws RUNS one behind the other into RECT, with dots where they do not fit.
-void PaintRuns(QPainter& painter, const QRectF& rect, const std::vector<Run>& runs,
-               const QColor& color);
+// Draws RUNS one after the other into RECT, centred in height, broken between words onto as many
+// lines as its width asks for.
+void PaintParagraph(QPainter& painter, const QRectF& rect, const std::vector<Run>& runs,
+                    const QFont& font, const QColor& color);
+
+// How high PaintParagraph draws RUNS in WIDTH.
+double ParagraphHeight(double width, const std::vector<Run>& runs, const QFont& font);
 
 // Marks the row as the user's own: a tint and a bright edge at its left end.
 void PaintOwn(QPainter& painter, const QStyleOptionViewItem& option);

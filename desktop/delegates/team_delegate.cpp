@@ -5,15 +5,16 @@
 #include <utility>
 
 #include "desktop/delegates/row_painter.h"
+#include "desktop/delegates/row_text.h"
 #include "desktop/delegates/team_columns.h"
-#include "desktop/delegates/team_line.h"
+#include "records/lines/standings_line.h"
 
 namespace frostmark {
 
 namespace {
 
-void PaintTeam(QPainter& painter, const QStyleOptionViewItem& option, const TeamLine& line, int row,
-               League league) {
+void PaintTeam(QPainter& painter, const QStyleOptionViewItem& option, const StandingsLine& line,
+               int row, League league) {
   const TeamColumns columns(option.font);
   QRectF rest = QRectF(option.rect).adjusted(columns.gap, 0, -columns.gap, 0);
 
@@ -30,41 +31,32 @@ void PaintTeam(QPainter& painter, const QStyleOptionViewItem& option, const Team
     QRectF count = rest;
     count.setLeft(rest.right() - columns.count);
     const bool wins = i + 1 == counts.size();
-    row::PaintText(painter, count, QString::number(counts[i]),
+    row::PaintText(painter, count, Shown(counts[i]),
                    wins ? row::TextColor(option) : row::QuietColor(option), Qt::AlignRight);
     rest.setRight(count.left());
   }
   rest.setRight(rest.right() - columns.gap);
-  row::PaintText(painter, rest, line.team, row::TextColor(option));
+  row::PaintText(painter, rest, Shown(line.team), row::TextColor(option));
 }
 
 }  // namespace
 
 TeamDelegate::TeamDelegate(League league, std::function<QString()> own_team, QObject* parent)
-    : QStyledItemDelegate(parent), league_(league), own_team_(std::move(own_team)) {}
+    : RowDelegate(parent), league_(league), own_team_(std::move(own_team)) {}
 
-void TeamDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
-                         const QModelIndex& index) const {
-  QStyleOptionViewItem prepared = option;
-  initStyleOption(&prepared, index);
-  painter->save();
-  row::PaintGround(*painter, prepared);
-  if (const auto line = ParseTeamLine(prepared.text)) {
-    if (line->team == own_team_()) {
-      row::PaintOwn(*painter, prepared);
-      prepared.font.setWeight(QFont::DemiBold);
-      painter->setFont(prepared.font);
-    }
-    PaintTeam(*painter, prepared, *line, index.row(), league_);
-  } else {
-    row::PaintPlain(*painter, prepared, prepared.text);
+bool TeamDelegate::PaintRow(QPainter& painter, const QStyleOptionViewItem& option,
+                            const QModelIndex& index) const {
+  const std::string text = option.text.toStdString();
+  const auto line = ParseStandingsLine(text);
+  if (!line) return false;
+  QStyleOptionViewItem dressed = option;
+  if (Shown(line->team) == own_team_()) {
+    row::PaintOwn(painter, option);
+    dressed.font.setWeight(QFont::DemiBold);
+    painter.setFont(dressed.font);
   }
-  painter->restore();
-}
-
-QSize TeamDelegate::sizeHint(const QStyleOptionViewItem& option,
-                             const QModelIndex& /*index*/) const {
-  return {0, qRound(row::Height(option) * row_stretch_)};
+  PaintTeam(painter, dressed, *line, index.row(), league_);
+  return true;
 }
 
 }  // namespace frostmark

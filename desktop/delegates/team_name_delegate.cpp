@@ -7,27 +7,18 @@
 
 namespace frostmark {
 
-void TeamNameDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
-                             const QModelIndex& index) const {
-  QStyleOptionViewItem prepared = option;
-  initStyleOption(&prepared, index);
-  painter->save();
-  row::PaintGround(*painter, prepared);
-  const double margin = row::Margin(prepared);
-  const double high = prepared.rect.height() * 0.78;
-  const QRectF crest(prepared.rect.left() + margin, prepared.rect.center().y() - high / 2 + 0.5,
+bool TeamNameDelegate::PaintRow(QPainter& painter, const QStyleOptionViewItem& option,
+                                const QModelIndex& /*index*/) const {
+  const double margin = row::Margin(option);
+  const double high = option.rect.height() * 0.78;
+  const QRectF crest(option.rect.left() + margin, option.rect.center().y() - high / 2 + 0.5,
                      high * 0.86, high);
-  PaintCrest(*painter, crest, prepared.text, colour_);
-  QRectF name(prepared.rect);
+  PaintCrest(painter, crest, option.text, colour_);
+  QRectF name(option.rect);
   name.setLeft(crest.right() + margin);
   name.setRight(name.right() - margin);
-  row::PaintText(*painter, name, prepared.text, row::TextColor(prepared));
-  painter->restore();
-}
-
-QSize TeamNameDelegate::sizeHint(const QStyleOptionViewItem& option,
-                                 const QModelIndex& /*index*/) const {
-  return {0, row::Height(option)};
+  row::PaintText(painter, name, option.text, row::TextColor(option));
+  return true;
 }
 
 }  // namespace frostmark

@@ -1,20 +1,21 @@
 #pragma once
 
 #include <QColor>
-#include <QStyledItemDelegate>
+
+#include "desktop/delegates/row_delegate.h"
 
 namespace frostmark {
 
 // Draws a team's name with a small crest in front of it.
-class TeamNameDelegate : public QStyledItemDelegate {
+class TeamNameDelegate : public RowDelegate {
   Q_OBJECT
 
  public:
-  TeamNameDelegate(QColor colour, QObject* parent) : QStyledItemDelegate(parent), colour_(colour) {}
+  TeamNameDelegate(QColor colour, QObject* parent) : RowDelegate(parent), colour_(colour) {}
 
-  void paint(QPainter* painter, const QStyleOptionViewItem& option,
-             const QModelIndex& index) const override;
-  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+ protected:
+  bool PaintRow(QPainter& painter, const QStyleOptionViewItem& option,
+                const QModelIndex& index) const override;
 
  private:
   QColor colour_;

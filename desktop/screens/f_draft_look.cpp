@@ -58,6 +58,7 @@ void DecorateFDraft(FDraft& screen, ScreenForm& form) {
   auto& events = Part<ListView>(form, "Events");
   const auto own_team = OwnTeam(screen);
   events.setItemDelegate(new HistoryDelegate(own_team, &events));
+  events.LetRowsGrow();
   GiveRoom(events, 90, 4);
   // Queued, so that the view has taken the new line in when it is told to go there.
   QObject::connect(events.model(), &QAbstractItemModel::rowsInserted, &events,

@@ -69,6 +69,7 @@ void DecorateFranchise(Franchise& screen, ScreenForm& form) {
   UsePosterFonts();
   auto& alerts = Part<ListView>(form, "Alerts");
   alerts.setItemDelegate(new NewsDelegate(OwnTeam(screen), &alerts));
+  alerts.LetRowsGrow();
   GiveRoom(alerts, 80, 8);
   DressStandings(screen, form);
   DressRoster(form);

@@ -52,7 +52,9 @@ class Commentator : public QObject {
 };
 
 void ShowLine(ListView& line) {
-  line.setItemDelegate(new LineupDelegate(&line));
+  auto* delegate = new LineupDelegate(&line);
+  delegate->StretchRows(1.5);
+  line.setItemDelegate(delegate);
   GiveRoom(line, 34, 8);
 }
 
@@ -64,6 +66,7 @@ void DecorateGame(Game& screen, ScreenForm& form) {
   ShowLine(Part<ListView>(form, "Line2"));
   auto& events = Part<ListView>(form, "Events");
   events.setItemDelegate(new PlayDelegate(&events));
+  events.LetRowsGrow();
   GiveRoom(events, 40, 6);
   new Pin(Part<QWidget>(form, "Label5"), Qt::AlignTop | Qt::AlignRight, {0, 18, 8, 0});
 

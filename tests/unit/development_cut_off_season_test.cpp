@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "records/lines/standings_line.h"
 #include "tests/unit/game_fixture.h"
 
 // A program that ends in the middle of a season's end, or of the save behind it, and what the next
@@ -79,7 +80,8 @@ TEST_F(CutOffSeasonTest, TablesOfTwoSeasonsLeaveNoLeagueOfFive) {
   // The save behind the draft was cut off after some of the tables.
   for (const char* rank : kRanks) {
     Lines fresh;
-    for (const std::string& team : world.FileNames(rank)) fresh.push_back(FreshTeamLine(team));
+    for (const std::string& team : world.FileNames(rank))
+      fresh.push_back(FormatFreshStandingsLine(team));
     WriteText(table(rank), JoinLines(fresh));
     const Lines before = world.Everything();
     EndSeasonOnTheNextDay();

@@ -1,3 +1,4 @@
+#include "records/lines/player_line.h"
 #include "tests/unit/game_fixture.h"
 #include "tests/unit/watchful_desktop.h"
 
@@ -37,7 +38,7 @@ TEST_F(NewSeasonTest, ItHandsTheGameBackAndSaves) {
   EXPECT_EQ(franchise().OppOverall.Caption(), "12");
   EXPECT_EQ(franchise().MainList.ListCount(), 6);
   EXPECT_EQ(franchise().TrainList.ListCount(), 5);
-  EXPECT_EQ(franchise().MainRoster.List(0), RosterLine(franchise().MainList.List(0)));
+  EXPECT_EQ(franchise().MainRoster.List(0), FormatRosterLine(franchise().MainList.List(0)));
   ASSERT_EQ(desktop().Boxes().size(), 1U);
   EXPECT_EQ(desktop().Boxes()[0].text, "File saved!");
   EXPECT_EQ(ordvik().ReadSetting("Week"), "Week 1");

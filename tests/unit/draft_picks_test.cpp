@@ -1,5 +1,7 @@
 #include <algorithm>
 
+#include "records/lines/player_line.h"
+#include "records/lines/pool_line.h"
 #include "records/runtime_error.h"
 #include "tests/unit/draft_scenes.h"
 
@@ -92,7 +94,7 @@ TEST_F(PicksTest, WithoutARetirementTheUserIsAskedWhomToLetGo) {
   choice().List2.AddItem("left over");
   Wait([&] {
     Lines lines;
-    for (const std::string& record : roster) lines.push_back(RosterLine(record));
+    for (const std::string& record : roster) lines.push_back(FormatRosterLine(record));
     EXPECT_EQ(ItemsOf(choice().List1), lines);
     EXPECT_EQ(ItemsOf(choice().List2), roster);
     EXPECT_EQ(ItemsOf(draft().tempList), roster);
@@ -320,7 +322,7 @@ TEST_F(PicksTest, AddDrafteePutsHimInHisPlaceAndForgetsHim) {
   EXPECT_EQ(best, "");
   EXPECT_EQ(Pool("CF").size(), 6U);
   EXPECT_EQ(Pool("CF")[0], record);
-  EXPECT_EQ(draft().List5.shown.List(0), PoolLine(record));
+  EXPECT_EQ(draft().List5.shown.List(0), FormatPoolLine(record));
   ExpectPoolInStep();
   EXPECT_EQ(desktop().Yields() - yields, 6);
 

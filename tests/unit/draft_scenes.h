@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 
+#include "records/lines/pool_line.h"
 #include "tests/unit/game_fixture.h"
 
 namespace frostmark::testing {
@@ -48,7 +49,7 @@ class DraftScene : public GameFixture {
   void SetPool(const std::string& position, const Lines& records) {
     ListPair& list = *draft().Pool(position);
     Lines shown;
-    for (const std::string& record : records) shown.push_back(PoolLine(record));
+    for (const std::string& record : records) shown.push_back(FormatPoolLine(record));
     FillList(list.shown, shown);
     FillList(list.records, records);
   }
@@ -57,7 +58,9 @@ class DraftScene : public GameFixture {
   void ExpectPoolInStep() {
     for (ListPair* list : draft().Pool()) {
       Lines shown;
-      for (const std::string& record : ItemsOf(list->records)) shown.push_back(PoolLine(record));
+      for (const std::string& record : ItemsOf(list->records)) {
+        shown.push_back(FormatPoolLine(record));
+      }
       EXPECT_EQ(ItemsOf(list->shown), shown);
     }
   }

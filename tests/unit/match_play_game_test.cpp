@@ -2,6 +2,7 @@
 #include <filesystem>
 #include <functional>
 
+#include "records/lines/standings_line.h"
 #include "records/runtime_error.h"
 #include "tests/unit/match_scenes.h"
 
@@ -42,7 +43,7 @@ class PlayGameTest : public GameFixture {
 
   std::string Standing(const std::string& team) {
     for (const std::string& line : ItemsOf(franchise().StatRankF)) {
-      if (TeamOfLine(line) == team) return line;
+      if (StandingsParts(line).team == team) return line;
     }
     return "";
   }

@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
-#include "records/player_record.h"
+#include "records/lines/player_line.h"
+#include "records/lines/player_record.h"
+#include "records/lines/pool_line.h"
+#include "records/lines/standings_line.h"
 #include "records/runtime_error.h"
 #include "tests/unit/game_fixture.h"
 
@@ -157,17 +160,17 @@ TEST_F(FieldsTest, OverallOfAGoalieRoundsATieToTheEvenNumber) {
 }
 
 TEST(PlayerLinesTest, ShowAPlayerInThreeWays) {
-  EXPECT_EQ(RosterLine(kForward), "CF - James Smith (85/23)");
-  EXPECT_EQ(PanelLine(kForward), "CF - James Smith 85/23");
-  EXPECT_EQ(PoolLine(kForward), "James Smith 85/23");
+  EXPECT_EQ(FormatRosterLine(kForward), "CF - James Smith (85/23)");
+  EXPECT_EQ(FormatPanelLine(kForward), "CF - James Smith 85/23");
+  EXPECT_EQ(FormatPoolLine(kForward), "James Smith 85/23");
 }
 
 TEST(TeamLineTest, BeginsWithAFreshRecordAndEndsWithTheName) {
-  EXPECT_EQ(FreshTeamLine("Boston Braves"), "(0-0-0) Boston Braves");
-  EXPECT_EQ(TeamOfLine("(3-1-0) Boston Braves"), "Boston Braves");
-  EXPECT_EQ(TeamOfLine("(13-10-20) A (B) C"), "A (B) C");
-  EXPECT_EQ(TeamOfLine("(0-0-0) "), "");
-  EXPECT_EQ(TeamOfLine("(0-0-0)"), "");
+  EXPECT_EQ(FormatFreshStandingsLine("Boston Braves"), "(0-0-0) Boston Braves");
+  EXPECT_EQ(StandingsParts("(3-1-0) Boston Braves").team, "Boston Braves");
+  EXPECT_EQ(StandingsParts("(13-10-20) A (B) C").team, "A (B) C");
+  EXPECT_EQ(StandingsParts("(0-0-0) ").team, "");
+  EXPECT_EQ(StandingsParts("(0-0-0)").team, "");
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 #include <cstdio>
 #include <functional>
 
+#include "records/lines/player_line.h"
+#include "records/lines/standings_line.h"
 #include "tests/unit/game_fixture.h"
 #include "tests/unit/watchful_desktop.h"
 
@@ -254,7 +256,7 @@ TEST_F(WeekLoopTest, TheRosterIsReadInTwiceAndTheSecondTimeStays) {
   EXPECT_EQ(ItemsOf(franchise().TrainList), Lines(roster.begin() + 6, roster.end()));
   EXPECT_EQ(franchise().MainRoster.ListCount(), 6);
   EXPECT_EQ(franchise().TrainingRoster.ListCount(), 5);
-  EXPECT_EQ(franchise().MainRoster.List(0), RosterLine(roster[0]));
+  EXPECT_EQ(franchise().MainRoster.List(0), FormatRosterLine(roster[0]));
 }
 
 TEST_F(WeekLoopTest, APressInTheSecondReadingIsPlayedToo) {
@@ -322,7 +324,7 @@ TEST_F(WeekLoopTest, TheStandingsAreSortedTheNewsTrimmedAndTheNextOpponentShown)
   FillList(franchise().StatRankA, {"(0-0-0) A0 Wolves", "(0-0-0) A1 Wolves", "(9-0-0) A2 Wolves"});
   for (int line = 0; line < 44; ++line) franchise().Alerts.AddItem("old");
   Begin();
-  EXPECT_EQ(TeamOfLine(franchise().StatRankA.List(0)), "A2 Wolves");
+  EXPECT_EQ(StandingsParts(franchise().StatRankA.List(0)).team, "A2 Wolves");
   EXPECT_EQ(franchise().Alerts.ListCount(), 44);
   EXPECT_EQ(franchise().OppTeam.Caption(), "F1 Wolves");
   EXPECT_EQ(franchise().OppOverall.Caption(), "75");

@@ -6,6 +6,8 @@
 #include <functional>
 #include <utility>
 
+#include "records/lines/player_line.h"
+#include "records/lines/standings_line.h"
 #include "tests/unit/game_fixture.h"
 #include "tests/unit/watchful_desktop.h"
 
@@ -112,7 +114,7 @@ TEST_F(PanelTest, GenerateShowsEachLineInReverseWithItsRatings) {
   Lines lead;
   Lines training;
   for (std::size_t i = team.size(); i-- > 0;)
-    (i < 6 ? lead : training).push_back(PanelLine(team[i]));
+    (i < 6 ? lead : training).push_back(FormatPanelLine(team[i]));
   EXPECT_EQ(ItemsOf(startup().List1), lead);
   EXPECT_EQ(ItemsOf(startup().List2), training);
   EXPECT_TRUE(startup().List1.List(5).starts_with("GO - "));
@@ -211,8 +213,8 @@ TEST_F(BeginTest, WritesTheTeamFillsTheScreenAndSaves) {
   EXPECT_TRUE(franchise().Visible());
   EXPECT_EQ(ItemsOf(franchise().MainList), Lines(team.begin(), team.begin() + 6));
   EXPECT_EQ(ItemsOf(franchise().TrainList), Lines(team.begin() + 6, team.end()));
-  EXPECT_EQ(franchise().MainRoster.List(0), RosterLine(team[0]));
-  EXPECT_EQ(franchise().TrainingRoster.List(0), RosterLine(team[6]));
+  EXPECT_EQ(franchise().MainRoster.List(0), FormatRosterLine(team[0]));
+  EXPECT_EQ(franchise().TrainingRoster.List(0), FormatRosterLine(team[6]));
   EXPECT_EQ(franchise().Label9.Caption(), startup().Label8.Caption());
   EXPECT_EQ(franchise().Label12.Caption(), startup().Label10.Caption());
   EXPECT_EQ(franchise().Label15.Caption(), startup().Label9.Caption());
@@ -222,7 +224,7 @@ TEST_F(BeginTest, WritesTheTeamFillsTheScreenAndSaves) {
   EXPECT_EQ(franchise().Season.Caption(), "0");
   EXPECT_EQ(franchise().Champion.Caption(), "0");
   EXPECT_EQ(franchise().RankF.ListCount(), 6);
-  EXPECT_EQ(franchise().StatRankF.List(0), FreshTeamLine(franchise().RankF.List(0)));
+  EXPECT_EQ(franchise().StatRankF.List(0), FormatFreshStandingsLine(franchise().RankF.List(0)));
   EXPECT_NE(franchise().OppTeam.Caption(), "");
   EXPECT_FALSE(startup().Frame1.Visible());
   EXPECT_FALSE(startup().HighButton4.Visible());

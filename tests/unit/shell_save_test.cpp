@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "records/lines/standings_line.h"
 #include "tests/unit/full_disk.h"
 #include "tests/unit/game_fixture.h"
 
@@ -228,7 +229,7 @@ TEST_F(SaveTest, AWeekThatIsNotSavedLosesItsMarkerButKeepsItsRosters) {
     RecordList& standings = *franchise().StatRankLists()[league];
     standings.Clear();
     for (const std::string& name : ItemsOf(*franchise().RankLists()[league])) {
-      standings.AddItem(FreshTeamLine(name));
+      standings.AddItem(FormatFreshStandingsLine(name));
     }
   }
   franchise().SaveGame();

@@ -7,6 +7,7 @@ set(shell_tests
   records_fields_test.cpp
   records_files_test.cpp
   records_list_test.cpp
+  records_lines_test.cpp
   records_numbers_test.cpp
   records_ratings_test.cpp
   records_settings_test.cpp

@@ -1,5 +1,7 @@
 #include "tools/measure_years/coach.h"
 
+#include "records/leagues.h"
+
 namespace frostmark {
 namespace {
 
@@ -61,7 +63,7 @@ std::string Coach::AskText(const std::string&) { return "11"; }
 
 void Coach::SetLines() {
   Franchise& franchise = program_.franchise;
-  for (const char* position : {"GO", "RD", "LD", "RF", "CF", "LF"}) {
+  for (const char* position : kRosterOrder) {
     for (int i = BestOf(franchise.MainList, position); i >= 0;
          i = BestOf(franchise.MainList, position)) {
       franchise.MainRoster.Select(i);

@@ -6,6 +6,7 @@
 #include <iostream>
 #include <string_view>
 
+#include "records/leagues.h"
 #include "tools/measure_years/coach.h"
 #include "tools/measure_years/fingerprint.h"
 #include "tools/measure_years/yearbook.h"

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "records/lines/standings_line.h"
+
 namespace frostmark {
 namespace {
 
@@ -88,7 +90,7 @@ void Yearbook::NoteSeason(Program& program) {
       if (std::sscanf(line.c_str(), "(%d-%d-%d)", &wins, &losses, &ties) != 3) continue;
       season.games += wins + losses + ties;  // each game twice, and each tie
       season.ties += ties;
-      if (TeamOfLine(line) == user_) season.users_rank = kRanks[league];
+      if (StandingsParts(line).team == user_) season.users_rank = kRanks[league];
     }
   }
   season.champion = results.Champ.Caption();

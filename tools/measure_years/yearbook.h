@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "records/leagues.h"
 #include "shell/program.h"
 
 namespace frostmark {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -48,26 +49,13 @@ Int16 OverallAt(std::string_view position, const Ratings& ratings, Int16 old_ove
 bool IsForward(std::string_view position);
 bool IsBack(std::string_view position);  // a defenceman or the goalie
 
-// One player as the Franchise screen and the release screen show him: CF - James Smith (85/23).
-std::string RosterLine(std::string_view record);
+// A record's fields in their order, as texts.
+using PlayerFields = std::array<std::string_view, kFieldCount>;
 
-// One player as the create-a-team panel shows him: CF - James Smith 85/23.
-std::string PanelLine(std::string_view record);
+// The record of FIELDS, none of which holds a comma.
+std::string FormatPlayerRecord(const PlayerFields& fields);
 
-// One player as the draft shows him: James Smith 85/23.
-std::string PoolLine(std::string_view record);
-
-// The team of a standings line: the text from the second character behind the first ")", so
-// (3-1-0) Boston Braves gives Boston Braves. A line without ")" gives the text behind its first
-// character.
-std::string TeamOfLine(std::string_view team_line);
-
-// The line of a team that has played no game: (0-0-0) Boston Braves.
-std::string FreshTeamLine(std::string_view team);
-
-// The leagues from the bottom of the ladder to its top. Each is the name of a folder.
-inline constexpr std::array<const char*, 6> kRanks = {"Rank F", "Rank E", "Rank D",
-                                                      "Rank C", "Rank B", "Rank A"};
-inline constexpr int kRankCount = 6;
+// The fields of RECORD, which are views into it; nothing unless they are nine.
+std::optional<PlayerFields> ParsePlayerRecord(std::string_view record);
 
 }  // namespace frostmark

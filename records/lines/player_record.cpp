@@ -1,4 +1,4 @@
-#include "records/player_record.h"
+#include "records/lines/player_record.h"
 
 #include <algorithm>
 
@@ -7,12 +7,6 @@ namespace {
 
 constexpr std::array<std::string_view, kFieldCount> kFieldNames = {
     "Name", "Position", "Overall", "Passing", "Shooting", "Defense", "Agility", "Age", "Training"};
-
-std::string Joined(std::initializer_list<std::string_view> parts) {
-  std::string text;
-  for (const std::string_view part : parts) text += part;
-  return text;
-}
 
 }  // namespace
 
@@ -52,26 +46,20 @@ Int16 OverallAt(std::string_view position, const Ratings& ratings, Int16 old_ove
   return old_overall;
 }
 
-std::string RosterLine(std::string_view record) {
-  return Joined({FieldView(record, Field::kPosition), " - ", FieldView(record, Field::kName), " (",
-                 FieldView(record, Field::kOverall), "/", FieldView(record, Field::kAge), ")"});
+std::string FormatPlayerRecord(const PlayerFields& fields) {
+  std::string record(fields[0]);
+  for (std::size_t i = 1; i < fields.size(); ++i) {
+    record += ',';
+    record += fields[i];
+  }
+  return record;
 }
 
-std::string PanelLine(std::string_view record) {
-  return Joined({FieldView(record, Field::kPosition), " - ", PoolLine(record)});
+std::optional<PlayerFields> ParsePlayerRecord(std::string_view record) {
+  if (std::count(record.begin(), record.end(), ',') != kFieldCount - 1) return std::nullopt;
+  PlayerFields fields;
+  for (int i = 0; i < kFieldCount; ++i) fields[static_cast<std::size_t>(i)] = FieldView(record, i);
+  return fields;
 }
-
-std::string PoolLine(std::string_view record) {
-  return Joined({FieldView(record, Field::kName), " ", FieldView(record, Field::kOverall), "/",
-                 FieldView(record, Field::kAge)});
-}
-
-std::string TeamOfLine(std::string_view team_line) {
-  const std::size_t bracket = team_line.find(')');
-  const std::size_t start = bracket == std::string_view::npos ? 1 : bracket + 2;
-  return std::string(team_line.substr(std::min(start, team_line.size())));
-}
-
-std::string FreshTeamLine(std::string_view team) { return Joined({"(0-0-0) ", team}); }
 
 }  // namespace frostmark
