@@ -18,6 +18,8 @@ void UseShippedFonts(double zoom) {
   QFontDatabase::addApplicationFont(":/fonts/barlow/Barlow_600SemiBold.ttf");
   QFont plain("Barlow");
   plain.setPointSizeF(points);
+  // Hinting moves the dot of an "i" onto its stem at small sizes.
+  plain.setHintingPreference(QFont::PreferNoHinting);
   QApplication::setFont(plain);
 }
 

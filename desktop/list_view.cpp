@@ -2,8 +2,24 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScrollBar>
+#include <chrono>
+#include <utility>
 
 namespace frostmark {
+
+namespace {
+
+// A list that is rebuilt is full again by then; one that fills later is a new one.
+constexpr std::chrono::milliseconds kRebuildTime{1000};
+
+// EVENT as if no modifier were held.
+QMouseEvent WithoutModifiers(const QMouseEvent& event) {
+  return {event.type(),   event.position(), event.scenePosition(), event.globalPosition(),
+          event.button(), event.buttons(),  Qt::NoModifier,        event.pointingDevice()};
+}
+
+}  // namespace
 
 ListView::ListView(QWidget* parent) : QListView(parent) {
   setEditTriggers(NoEditTriggers);
@@ -33,15 +49,30 @@ int ListView::SelectedRow() const {
   return rows.isEmpty() ? -1 : rows.front().row();
 }
 
+bool ListView::IsChoice(const QMouseEvent& event) const {
+  return event.button() == Qt::LeftButton && indexAt(event.position().toPoint()).isValid();
+}
+
+// Qt's views answer every button and take Ctrl and Shift for more than one row: here only the plain
+// left button on a row chooses, so that the lit row is always the one that the game holds.
 void ListView::mousePressEvent(QMouseEvent* event) {
-  QListView::mousePressEvent(event);
-  pressed_on_item_ =
-      event->button() == Qt::LeftButton && indexAt(event->position().toPoint()).isValid();
+  pressed_on_item_ = IsChoice(*event);
+  if (!pressed_on_item_) {
+    event->accept();
+    return;
+  }
+  QMouseEvent plain = WithoutModifiers(*event);
+  QListView::mousePressEvent(&plain);
+}
+
+void ListView::mouseMoveEvent(QMouseEvent* event) {
+  if (pressed_on_item_ || event->buttons() == Qt::NoButton) QListView::mouseMoveEvent(event);
 }
 
 void ListView::mouseReleaseEvent(QMouseEvent* event) {
-  QListView::mouseReleaseEvent(event);
   if (event->button() != Qt::LeftButton || !pressed_on_item_) return;
+  QMouseEvent plain = WithoutModifiers(*event);
+  QListView::mouseReleaseEvent(&plain);
   pressed_on_item_ = false;
   // The row under the mouse may have moved on since the press: what is selected is what was chosen.
   const int row = SelectedRow();
@@ -49,10 +80,14 @@ void ListView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void ListView::mouseDoubleClickEvent(QMouseEvent* event) {
-  QListView::mouseDoubleClickEvent(event);
+  if (!IsChoice(*event)) {
+    event->accept();
+    return;
+  }
+  QMouseEvent plain = WithoutModifiers(*event);
+  QListView::mouseDoubleClickEvent(&plain);
   const int row = SelectedRow();
-  const bool on_item = indexAt(event->position().toPoint()).isValid();
-  if (event->button() == Qt::LeftButton && on_item && row >= 0) emit Activated(row, false);
+  if (row >= 0) emit Activated(row, false);
 }
 
 void ListView::keyPressEvent(QKeyEvent* event) {
@@ -67,18 +102,49 @@ void ListView::keyPressEvent(QKeyEvent* event) {
       return;
     case Qt::Key_Up:
     case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Home:
+    case Qt::Key_End:
       // The first arrow in a list without a selection chooses the row that it stands on.
       if (before < 0 && currentIndex().isValid()) {
         emit Chosen(currentIndex().row());
         return;
+      } else {
+        // With Ctrl a view would walk away from the lit row.
+        QKeyEvent plain(event->type(), event->key(), Qt::NoModifier);
+        QListView::keyPressEvent(&plain);
       }
       break;
     default:
+      QListView::keyPressEvent(event);
       break;
   }
-  QListView::keyPressEvent(event);
   const int after = SelectedRow();
   if (after >= 0 && after != before) emit Chosen(after);
+}
+
+void ListView::reset() {
+  const int place = verticalScrollBar()->value();
+  QListView::reset();
+  if (place == 0) return;
+  place_ = place;
+  rebuilding_.setRemainingTime(kRebuildTime);
+}
+
+void ListView::updateGeometries() {
+  QListView::updateGeometries();
+  if (place_ == 0) return;
+  if (rebuilding_.hasExpired()) {
+    place_ = 0;
+  } else if (verticalScrollBar()->maximum() >= place_) {
+    verticalScrollBar()->setValue(std::exchange(place_, 0));
+  }
+}
+
+void ListView::wheelEvent(QWheelEvent* event) {
+  place_ = 0;
+  QListView::wheelEvent(event);
 }
 
 }  // namespace frostmark

@@ -2,8 +2,6 @@
 
 #include <QApplication>
 #include <QDesktopServices>
-#include <QInputDialog>
-#include <QMessageBox>
 #include <QTime>
 #include <QTimer>
 #include <QUrl>
@@ -11,6 +9,7 @@
 #include <cstdlib>
 
 #include "desktop/access.h"
+#include "desktop/boxes.h"
 #include "desktop/screen_window.h"
 #include "desktop/ticker.h"
 #include "ui/controls.h"
@@ -23,20 +22,6 @@ namespace {
 // toolkit is asked no more often than a person can notice.
 constexpr int kYieldsPerClockReading = 16;
 constexpr std::chrono::milliseconds kBetweenEvents{8};
-
-QMessageBox::Icon Shown(BoxIcon icon) {
-  switch (icon) {
-    case BoxIcon::kStop:
-      return QMessageBox::Critical;
-    case BoxIcon::kInformation:
-      return QMessageBox::Information;
-    case BoxIcon::kQuestion:
-      return QMessageBox::Question;
-    case BoxIcon::kNone:
-      break;
-  }
-  return QMessageBox::NoIcon;
-}
 
 }  // namespace
 
@@ -117,28 +102,15 @@ void QtDesktop::ComeToFront() {
 }
 
 Answer QtDesktop::ShowBox(const MessageBox& box) {
-  QMessageBox shown(FrontWindow());
-  shown.setIcon(Shown(box.icon));
-  shown.setTextFormat(Qt::PlainText);
-  shown.setText(QString::fromStdString(box.text));
-  const bool asks = box.buttons == BoxButtons::kYesNo;
-  if (asks) {
-    shown.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-    shown.setEscapeButton(QMessageBox::No);  // closing the box is a No as well
-    shown.setDefaultButton(QMessageBox::No);
-  }
-  const bool yes = shown.exec() == QMessageBox::Yes;
+  const Answer answer = ShowMessageBox(box, FrontWindow());
   StopIfEnded();
-  if (!asks) return Answer::kOk;
-  return yes ? Answer::kYes : Answer::kNo;
+  return answer;
 }
 
 std::string QtDesktop::AskText(const std::string& prompt) {
-  QInputDialog dialog(FrontWindow());
-  dialog.setLabelText(QString::fromStdString(prompt));
-  const bool accepted = dialog.exec() == QDialog::Accepted;
+  const std::string text = AskForText(prompt, FrontWindow());
   StopIfEnded();
-  return accepted ? dialog.textValue().toStdString() : std::string();
+  return text;
 }
 
 void QtDesktop::OpenWebPage(const std::string& address) {
@@ -157,10 +129,8 @@ void QtDesktop::EndProgram() {
 }
 
 void QtDesktop::EndByError(const std::string& text) {
-  QMessageBox box(QMessageBox::Critical, QString(), QString::fromStdString(text), QMessageBox::Ok,
-                  screens_ == nullptr ? nullptr : FrontWindow());
-  box.setTextFormat(Qt::PlainText);
-  box.exec();
+  ShowMessageBox({BoxIcon::kStop, BoxButtons::kOk, text},
+                 screens_ == nullptr ? nullptr : FrontWindow());
   for (QWidget* window : QApplication::topLevelWidgets()) window->hide();
   leave_(EXIT_FAILURE);
 }

@@ -20,13 +20,22 @@ namespace frostmark {
 namespace {
 
 constexpr std::pair<const char*, QRgb> kColours[] = {
-    {"deep", palette::kDeep},   {"night", palette::kNight},
-    {"panel", palette::kPanel}, {"raised", palette::kRaised},
-    {"edge", palette::kEdge},   {"ice", palette::kIce},
-    {"frost", palette::kFrost}, {"faint", palette::kFaint},
-    {"blue", palette::kBlue},   {"blueBright", palette::kBlueBright},
-    {"red", palette::kRed},     {"redBright", palette::kRedBright},
-    {"gold", palette::kGold},   {"green", palette::kGreen},
+    {"deep", palette::kDeep},
+    {"night", palette::kNight},
+    {"panel", palette::kPanel},
+    {"raised", palette::kRaised},
+    {"edge", palette::kEdge},
+    {"ice", palette::kIce},
+    {"frost", palette::kFrost},
+    {"faint", palette::kFaint},
+    {"blue", palette::kBlue},
+    {"blueDeep", palette::kBlueDeep},
+    {"blueBright", palette::kBlueBright},
+    {"red", palette::kRed},
+    {"redDeep", palette::kRedDeep},
+    {"redBright", palette::kRedBright},
+    {"gold", palette::kGold},
+    {"green", palette::kGreen},
 };
 
 double zoom_now = 1;
@@ -69,7 +78,7 @@ QPalette Colours() {
     colours.setColor(QPalette::Disabled, role, QColor(palette::kFaint));
   }
   colours.setColor(QPalette::PlaceholderText, QColor(palette::kFrost));
-  colours.setColor(QPalette::Highlight, QColor(palette::kBlue));
+  colours.setColor(QPalette::Highlight, QColor(palette::kBlueDeep));
   colours.setColor(QPalette::HighlightedText, Qt::white);
   colours.setColor(QPalette::Link, QColor(palette::kBlueBright));
   colours.setColor(QPalette::ToolTipBase, QColor(palette::kPanel));

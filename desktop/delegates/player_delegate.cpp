@@ -107,7 +107,9 @@ void PaintPlayer(QPainter& painter, const QStyleOptionViewItem& option, const Pl
   QRectF bar(0, 0, bar_width, option.fontMetrics.height() * 0.45);
   bar.moveRight(number.left() - columns.gap * 0.7);
   bar.moveTop(rest.center().y() - bar.height() / 2);
-  if (option.state & QStyle::State_Selected) {
+  if (!(option.state & QStyle::State_Enabled)) {
+    PaintShare(painter, bar, RatingShare(overall), palette::kFaint);
+  } else if (option.state & QStyle::State_Selected) {
     // The blues of the bars would be lost on the blue of the selection.
     PaintShare(painter, bar, RatingShare(overall), palette::kIce);
   } else {

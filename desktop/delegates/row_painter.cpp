@@ -13,8 +13,6 @@ namespace frostmark::row {
 
 namespace {
 
-constexpr double kDimmed = 0.4;
-
 QPalette::ColorGroup Group(const QStyleOptionViewItem& option) {
   return option.state & QStyle::State_Enabled ? QPalette::Active : QPalette::Disabled;
 }
@@ -23,7 +21,9 @@ QPalette::ColorGroup Group(const QStyleOptionViewItem& option) {
 
 int Height(const QStyleOptionViewItem& option) { return option.fontMetrics.height() * 17 / 10; }
 
-double Margin(const QStyleOptionViewItem& option) { return option.fontMetrics.height() * 0.45; }
+double Margin(const QFontMetrics& metrics) { return metrics.height() * 0.45; }
+
+double Margin(const QStyleOptionViewItem& option) { return Margin(option.fontMetrics); }
 
 void PaintGround(QPainter& painter, const QStyleOptionViewItem& option) {
   const QStyle* style = option.widget != nullptr ? option.widget->style() : QApplication::style();
@@ -35,7 +35,6 @@ void PaintGround(QPainter& painter, const QStyleOptionViewItem& option) {
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(QRectF(option.rect).adjusted(1, 1, -1, -1), 5, 5);
   }
-  if (!(option.state & QStyle::State_Enabled)) painter.setOpacity(kDimmed);
 }
 
 QColor TextColor(const QStyleOptionViewItem& option) {
@@ -45,6 +44,10 @@ QColor TextColor(const QStyleOptionViewItem& option) {
 
 QColor QuietColor(const QStyleOptionViewItem& option) {
   QColor color = TextColor(option);
+  // On the blue of the selection, or faint as it is, it would be too pale.
+  if (option.state & QStyle::State_Selected || !(option.state & QStyle::State_Enabled)) {
+    return color;
+  }
   color.setAlphaF(color.alphaF() * 0.62);
   return color;
 }
@@ -121,7 +124,7 @@ void PaintOwn(QPainter& painter, const QStyleOptionViewItem& option) {
   const QRectF rect = QRectF(option.rect).adjusted(1, 1, -1, -1);
   painter.setPen(Qt::NoPen);
   QColor tint(palette::kGold);
-  tint.setAlphaF(0.16F);
+  tint.setAlphaF(option.state & QStyle::State_Enabled ? 0.16F : 0.05F);
   painter.setBrush(tint);
   painter.drawRoundedRect(rect, 5, 5);
   painter.setBrush(QColor(palette::kGold));

@@ -18,9 +18,10 @@ namespace row {
 // own: it fills its list, whose form sees to it that there is room.
 int Height(const QStyleOptionViewItem& option);
 double Margin(const QStyleOptionViewItem& option);
+double Margin(const QFontMetrics& metrics);
 
 // Draws the ground of a row as the style sheet wants it, with the keyboard's frame when the row has
-// the focus, and leaves PAINTER in the row's font and dimmed when its list is disabled.
+// the focus, and leaves PAINTER in the row's font.
 void PaintGround(QPainter& painter, const QStyleOptionViewItem& option);
 
 // The colour of plain text on the row, and of text that stands back.

@@ -10,7 +10,7 @@ struct TeamColumns {
     const QFontMetricsF metrics(font);
     gap = metrics.height() * 0.45;
     mark = metrics.height() * 0.75;
-    place = metrics.horizontalAdvance("0");
+    place = metrics.horizontalAdvance("0") * 1.3;         // the own place is bold
     count = metrics.horizontalAdvance("00") + gap * 0.8;  // ten weeks: no more than two digits
   }
 

@@ -14,8 +14,8 @@ namespace frostmark {
 namespace {
 
 void PaintTeam(QPainter& painter, const QStyleOptionViewItem& option, const StandingsLine& line,
-               int row, League league) {
-  const TeamColumns columns(option.font);
+               int row, League league, const QFont& plain) {
+  const TeamColumns columns(plain);
   QRectF rest = QRectF(option.rect).adjusted(columns.gap, 0, -columns.gap, 0);
 
   QRectF place = rest;
@@ -55,7 +55,7 @@ bool TeamDelegate::PaintRow(QPainter& painter, const QStyleOptionViewItem& optio
     dressed.font.setWeight(QFont::DemiBold);
     painter.setFont(dressed.font);
   }
-  PaintTeam(painter, dressed, *line, index.row(), league_);
+  PaintTeam(painter, dressed, *line, index.row(), league_, option.font);
   return true;
 }
 

@@ -10,6 +10,7 @@
 #include "desktop/screen_form.h"
 #include "desktop/screens/own_team.h"
 #include "desktop/screens/spoken_news.h"
+#include "desktop/widgets/column_heading.h"
 #include "desktop/widgets/glow_frame.h"
 #include "desktop/widgets/room.h"
 #include "draft/f_draft.h"
@@ -29,8 +30,15 @@ constexpr std::array kPool = {
     PoolParts{"List5_0", "look_pool_5"}, PoolParts{"List6_0", "look_pool_6"},
 };
 
+// The three lists of a row of the pool, from the list FIRST on.
+QList<QAbstractItemView*> PoolLists(const ScreenForm& form, std::size_t first) {
+  QList<QAbstractItemView*> lists;
+  for (std::size_t i = first; i < first + 3; ++i) lists << &Part<ListView>(form, kPool[i].list);
+  return lists;
+}
+
 // Lights what waits for the user, and takes the keyboard there: the open list of the pool while it
-// is his turn, the button on to the new season when all is over.
+// is their turn, the button on to the new season when all is over.
 void ShowTurn(const FDraft& screen, ScreenForm& form, const QString& own_team) {
   auto& team = Part<QLabel>(form, "CurTeam");
   ShowOwn(team, team.text() == own_team);
@@ -55,6 +63,8 @@ void DecorateFDraft(FDraft& screen, ScreenForm& form) {
     list.setItemDelegate(new PlayerDelegate(&list));
     GiveRoom(list, 40, 4);
   }
+  Part<ColumnHeading>(form, "Label4").StandOver(PoolLists(form, 0));
+  Part<ColumnHeading>(form, "Label6").StandOver(PoolLists(form, 3));
   auto& events = Part<ListView>(form, "Events");
   const auto own_team = OwnTeam(screen);
   events.setItemDelegate(new HistoryDelegate(own_team, &events));

@@ -6,11 +6,11 @@
 #include "desktop/delegates/team_delegate.h"
 #include "desktop/fonts.h"
 #include "desktop/list_view.h"
-#include "desktop/palette.h"
 #include "desktop/screen_form.h"
 #include "desktop/screens/own_team.h"
 #include "desktop/screens/spoken_news.h"
 #include "desktop/widgets/fate_label.h"
+#include "desktop/widgets/roles.h"
 #include "desktop/widgets/room.h"
 #include "draft/f_results.h"
 
@@ -33,8 +33,6 @@ constexpr std::array kNamed = {
     Named{"Label12", Fate::kGoesUp},  Named{"Label11", Fate::kGoesDown},
     Named{"Label24", Fate::kGoesUp},  Named{"Label23", Fate::kStays},
 };
-
-constexpr double kChampionSize = 2.6;  // in ordinary letters
 
 constexpr std::array kTables = {"List1", "List2", "List3", "List4", "List5", "List6"};
 
@@ -62,10 +60,7 @@ void DecorateFResults(FResults& screen, ScreenForm& form) {
     list.setItemDelegate(new TeamDelegate(league, own_team, &list));
     GiveRoom(list, 44, 6);
   }
-  auto& champion = Part<QLabel>(form, "Champ");
-  champion.setStyleSheet(QStringLiteral("color: %1; font-size: %2pt")
-                             .arg(QColor(palette::kGold).name())
-                             .arg(form.font().pointSizeF() * kChampionSize));
+  SetLook(Part<QLabel>(form, "Champ"), "role", "champion");
   Part<QPushButton>(form, "Command1").setFocus();
 }
 

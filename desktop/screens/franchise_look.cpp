@@ -8,12 +8,13 @@
 #include "desktop/delegates/team_delegate.h"
 #include "desktop/fonts.h"
 #include "desktop/list_view.h"
-#include "desktop/palette.h"
 #include "desktop/screen_form.h"
 #include "desktop/screens/own_team.h"
 #include "desktop/screens/spoken_news.h"
 #include "desktop/widgets/focus_keeper.h"
+#include "desktop/widgets/roles.h"
 #include "desktop/widgets/room.h"
+#include "desktop/widgets/standings_heading.h"
 #include "shell/franchise.h"
 
 namespace frostmark {
@@ -22,6 +23,9 @@ namespace {
 
 constexpr std::array kStandings = {"StatRankF", "StatRankE", "StatRankD",
                                    "StatRankC", "StatRankB", "StatRankA"};
+
+constexpr std::array kHeadings = {"look_heading_f", "look_heading_e", "look_heading_d",
+                                  "look_heading_c", "look_heading_b", "look_heading_a"};
 
 // Six teams or players have the room of a page to themselves.
 constexpr double kStandingsStretch = 1.5;
@@ -37,6 +41,7 @@ void DressStandings(const Franchise& screen, ScreenForm& form) {
     delegate->StretchRows(kStandingsStretch);
     list.setItemDelegate(delegate);
     GiveRoom(list, 44, 9);
+    Part<StandingsHeading>(form, kHeadings[i]).StandOver(list);
   }
 }
 
@@ -48,12 +53,6 @@ void DressRoster(ScreenForm& form) {
     list.setItemDelegate(delegate);
     GiveRoom(list, 46, 10);
   }
-}
-
-// The word between the two teams, in the poster face.
-void DressVersus(QLabel& versus) {
-  versus.setStyleSheet(QStringLiteral("font-family: \"Arial Black\"; color: %1")
-                           .arg(QColor(palette::kRedBright).name()));
 }
 
 // Keeps the place of a widget that comes and goes, so that the others do not jump.
@@ -75,7 +74,7 @@ void DecorateFranchise(Franchise& screen, ScreenForm& form) {
   DressRoster(form);
 
   ShowOwn(Part<QLabel>(form, "TeamName"), true);
-  DressVersus(Part<QLabel>(form, "look_versus"));
+  SetLook(Part<QLabel>(form, "look_versus"), "role", "versus");
   KeepPlace(Part<QLabel>(form, "Label18"));
   KeepPlace(Part<QPushButton>(form, "Command5"));
 

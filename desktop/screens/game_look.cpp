@@ -4,6 +4,7 @@
 #include "desktop/decorations.h"
 #include "desktop/delegates/lineup_delegate.h"
 #include "desktop/delegates/play_delegate.h"
+#include "desktop/delegates/row_text.h"
 #include "desktop/fonts.h"
 #include "desktop/list_view.h"
 #include "desktop/screen_form.h"
@@ -13,11 +14,12 @@
 #include "desktop/widgets/roles.h"
 #include "desktop/widgets/room.h"
 #include "match/game.h"
+#include "records/lines/player_record.h"
 
 namespace frostmark {
 namespace {
 
-constexpr qsizetype kPositionField = 1;
+constexpr int kFaceOffDue = -2;
 
 // Shows on the rink what the match machine has come to.
 class Commentator : public QObject {
@@ -36,10 +38,12 @@ class Commentator : public QObject {
     if (game_.Period1.Value() == 0 && !game_.Timer1.Enabled()) {
       rink_.Reset();
     } else {
-      const auto fields = QString::fromStdString(game_.PuckCarrier).split(',');
-      rink_.SetPuck(game_.PuckTeam, fields.value(kPositionField));
       if (home > home_) rink_.FlashGoal(1);
       if (visitor > visitor_) rink_.FlashGoal(2);
+      // From a goal to the next face-off the puck lies in the net.
+      if (game_.PassesLeft != kFaceOffDue) {
+        rink_.SetPuck(game_.PuckTeam, Shown(FieldView(game_.PuckCarrier, Field::kPosition)));
+      }
     }
     home_ = home;
     visitor_ = visitor;

@@ -1,9 +1,8 @@
 #include "desktop/screens/own_team.h"
 
-#include <QColor>
 #include <QLabel>
 
-#include "desktop/palette.h"
+#include "desktop/widgets/roles.h"
 #include "shell/franchise.h"
 
 namespace frostmark {
@@ -15,10 +14,6 @@ std::function<QString()> OwnTeam(const Screen& screen) {
   };
 }
 
-void ShowOwn(QLabel& label, bool own) {
-  const QString style =
-      own ? QStringLiteral("color: %1").arg(QColor(palette::kGold).name()) : QString();
-  if (label.styleSheet() != style) label.setStyleSheet(style);
-}
+void ShowOwn(QLabel& label, bool own) { SetLook(label, "own", own); }
 
 }  // namespace frostmark

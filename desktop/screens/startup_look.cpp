@@ -31,7 +31,7 @@ class PanelOpening : public QObject {
 
   bool eventFilter(QObject* /*watched*/, QEvent* event) override {
     if (event->type() != QEvent::Show) return false;
-    for (auto* list : panel_.findChildren<ListView*>()) GiveRoom(*list, 34, 6);
+    for (auto* list : panel_.findChildren<ListView*>()) GiveRoom(*list, 43, 6);
     panel_.removeEventFilter(this);
     return false;
   }

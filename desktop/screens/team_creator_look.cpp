@@ -10,7 +10,7 @@ namespace frostmark {
 void DecorateTeamCreator(TeamCreator& /*screen*/, ScreenForm& form) {
   auto& roster = Part<ListView>(form, "List1");
   roster.setItemDelegate(new RecordDelegate(&roster));
-  GiveRoom(roster, 58, 11);
+  GiveRoom(roster, 68, 11);
   GiveRoom(Part<ListView>(form, "List4"), 16, 3);
   GiveRoom(Part<ListView>(form, "List2"), 16, 3);
   GiveRoom(Part<ListView>(form, "List3"), 16, 3);

@@ -6,11 +6,6 @@
 
 namespace frostmark {
 
-ArrowButton::ArrowButton(QWidget* parent) : QPushButton(parent) {
-  // An arrow needs none of the width that makes buttons with words look alike.
-  setStyleSheet("QPushButton { min-width: 1.2em; padding: 0.7em 0.5em; }");
-}
-
 void ArrowButton::paintEvent(QPaintEvent* /*event*/) {
   QStylePainter painter(this);
   QStyleOptionButton option;

@@ -10,7 +10,7 @@ class ArrowButton : public QPushButton {
   Q_PROPERTY(bool leftward MEMBER leftward_)
 
  public:
-  explicit ArrowButton(QWidget* parent = nullptr);
+  using QPushButton::QPushButton;
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -9,9 +9,9 @@ namespace frostmark {
 
 QColor PositionColor(const QString& position) {
   if (position == "GO") return palette::kIce;
-  if (position == "RD" || position == "LD") return palette::kBlue;
-  if (position == "RF" || position == "CF" || position == "LF") return palette::kRed;
-  return palette::kFaint;
+  if (position == "RD" || position == "LD") return palette::kBlueDeep;
+  if (position == "RF" || position == "CF" || position == "LF") return palette::kRedDeep;
+  return palette::kEdge;
 }
 
 QSizeF PositionBadgeSize(const QFontMetricsF& metrics) {
@@ -24,7 +24,7 @@ void PaintPositionBadge(QPainter& painter, const QRectF& rect, const QString& po
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   // The edge keeps a blue badge apart from the blue of a selected row.
-  painter.setPen(QPen(color.lighter(135), 1));
+  painter.setPen(QPen(color.lighter(170), 1));
   painter.setBrush(color);
   const double radius = rect.height() * 0.28;
   painter.drawRoundedRect(rect, radius, radius);

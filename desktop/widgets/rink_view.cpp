@@ -18,7 +18,7 @@ struct RinkView::Spot {
   QPointF at;
 };
 
-// A right side is the right side of a man who looks at the other goal.
+// A right side is the right side of a player who looks at the other goal.
 const RinkView::Spot RinkView::kSpots[12] = {
     {"vGoalie", "GO", 1, {20, 42.5}},  {"vRDef", "RD", 1, {44, 63}},
     {"vLDef", "LD", 1, {44, 22}},      {"vRFor", "RF", 1, {84, 68}},
@@ -30,8 +30,9 @@ const RinkView::Spot RinkView::kSpots[12] = {
 
 namespace {
 
-constexpr std::chrono::milliseconds kLampTime{2500};
+constexpr std::chrono::milliseconds kLampTime{1200};
 constexpr QPointF kCentreSpot(rink::kLength / 2, rink::kWidth / 2);
+constexpr double kLight = 32;  // how far the lamp shines
 constexpr double kPuck = 1.9;  // its radius; a true one could not be seen
 
 QPointF GoalOf(int scoring_team) {
@@ -56,6 +57,11 @@ const RinkView::Spot* RinkView::SpotOf(int team, const QString& position) {
 
 void RinkView::SetPuck(int team, const QString& position) {
   const Spot* spot = SpotOf(team, position);
+  if (scored_ != 0) {
+    scored_ = 0;
+    carrier_ = nullptr;  // it comes from the face-off
+    update();
+  }
   if (spot == carrier_) return;
   before_ = carrier_;
   carrier_ = spot;
@@ -72,6 +78,7 @@ void RinkView::MarkCarrier() {
 void RinkView::FlashGoal(int team) {
   if (lamp_of_ != team) PutLampOut();
   lamp_of_ = team;
+  scored_ = team;
   lamp_.start();
   emit LampChanged(team, true);
   update();
@@ -87,6 +94,7 @@ void RinkView::PutLampOut() {
 void RinkView::Reset() {
   carrier_ = nullptr;
   before_ = nullptr;
+  scored_ = 0;
   MarkCarrier();
   PutLampOut();
 }
@@ -112,12 +120,14 @@ void RinkView::PlaceChips() {
   for (const Spot& spot : kSpots) {
     auto* chip = findChild<RatingChip*>(QLatin1String(spot.label));
     if (chip == nullptr) continue;
-    chip->SetColour(QColor(spot.team == 1 ? palette::kBlue : palette::kRed));
+    chip->SetColour(QColor(spot.team == 1 ? palette::kBlueDeep : palette::kRedDeep));
     QRect place(QPoint(), chip->sizeHint());
     place.moveCenter(feet.map(spot.at).toPoint());
     chip->setGeometry(place);
   }
 }
+
+QPointF RinkView::Puck() const { return scored_ != 0 ? GoalOf(scored_) : PuckAt(carrier_); }
 
 QPointF RinkView::PuckAt(const Spot* spot) const {
   if (spot == nullptr) return kCentreSpot;
@@ -147,14 +157,16 @@ void RinkView::PaintWay(QPainter& painter, const QPointF& from, const QPointF& t
 }
 
 void RinkView::PaintLamp(QPainter& painter) const {
+  // Off the goal towards the middle, so that the light is gone where the boards are.
   const QPointF goal = GoalOf(lamp_of_);
-  QRadialGradient light(goal, 34);
+  const QPointF middle(goal.x() < rink::kLength / 2 ? kLight : rink::kLength - kLight, goal.y());
+  QRadialGradient light(middle, kLight, goal);
   light.setColorAt(0, QColor(255, 236, 170, 235));
   light.setColorAt(0.25, QColor(244, 120, 82, 190));
   light.setColorAt(1, QColor(217, 48, 62, 0));
   painter.setPen(Qt::NoPen);
   painter.setBrush(light);
-  painter.drawEllipse(goal, 34, 34);
+  painter.drawEllipse(middle, kLight, kLight);
 }
 
 void RinkView::paintEvent(QPaintEvent* /*event*/) {
@@ -173,14 +185,11 @@ void RinkView::paintEvent(QPaintEvent* /*event*/) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.drawPixmap(0, 0, ice_);
   painter.setTransform(feet, true);
-  if (lamp_of_ != 0) {
-    PaintLamp(painter);
-    PaintPuck(painter, GoalOf(lamp_of_));
-    return;
-  }
-  if (before_ != nullptr || carrier_ != nullptr)
+  if (lamp_of_ != 0) PaintLamp(painter);
+  if (scored_ == 0 && (before_ != nullptr || carrier_ != nullptr)) {
     PaintWay(painter, PuckAt(before_), PuckAt(carrier_));
-  PaintPuck(painter, PuckAt(carrier_));
+  }
+  PaintPuck(painter, Puck());
 }
 
 }  // namespace frostmark

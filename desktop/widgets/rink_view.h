@@ -21,8 +21,13 @@ class RinkView : public QWidget {
   // the spot in the middle.
   void SetPuck(int team, const QString& position);
 
-  // Lights the lamp behind the goal that TEAM (1 or 2) has scored in, for a moment.
+  // Lights the lamp behind the goal that TEAM (1 or 2) has scored in, for a moment, and lays the
+  // puck into it until the next SetPuck.
   void FlashGoal(int team);
+
+  // Where the puck lies, in feet, and the team whose goal the lamp tells of, 0 for none.
+  QPointF Puck() const;
+  int Lamp() const { return lamp_of_; }
 
   // Takes puck and lamp back to the start of a game.
   void Reset();
@@ -55,6 +60,7 @@ class RinkView : public QWidget {
   const Spot* carrier_ = nullptr;
   const Spot* before_ = nullptr;
   int lamp_of_ = 0;  // the team that has scored
+  int scored_ = 0;   // the same, until the puck is back in play
   QTimer lamp_;
 };
 

@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+class QAbstractItemView;
+
 namespace frostmark {
 
 // The letters over the columns of a league's standings: wins, losses, ties.
@@ -11,11 +13,21 @@ class StandingsHeading : public QWidget {
  public:
   explicit StandingsHeading(QWidget* parent = nullptr) : QWidget(parent) {}
 
+  // Sets the letters over the columns of STANDINGS, a list in the same window.
+  void StandOver(QAbstractItemView& standings);
+
+  // Where the columns end, from the left end of the heading.
+  double End() const;
+
+  bool eventFilter(QObject* watched, QEvent* event) override;
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QAbstractItemView* standings_ = nullptr;
 };
 
 }  // namespace frostmark

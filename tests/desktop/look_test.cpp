@@ -1,0 +1,339 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QFrame>
+#include <QHash>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPushButton>
+#include <QStringListModel>
+#include <QTabBar>
+#include <QVBoxLayout>
+#include <QtTest>
+#include <cmath>
+
+#include "desktop/boxes.h"
+#include "desktop/delegates/history_delegate.h"
+#include "desktop/delegates/news_delegate.h"
+#include "desktop/delegates/play_delegate.h"
+#include "desktop/delegates/player_delegate.h"
+#include "desktop/delegates/team_delegate.h"
+#include "desktop/delegates/team_name_delegate.h"
+#include "desktop/list_view.h"
+#include "desktop/palette.h"
+#include "desktop/widgets/position_badge.h"
+#include "tests/desktop/person.h"
+
+namespace frostmark::test {
+namespace {
+
+constexpr double kForText = 4.5;
+constexpr double kForSigns = 3;
+// Large enough for the middle of a stroke to have its full colour.
+constexpr int kEnlarged = 3;
+
+double Luminance(QRgb colour) {
+  const auto part = [](int value) {
+    const double share = value / 255.0;
+    return share <= 0.03928 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * part(qRed(colour)) + 0.7152 * part(qGreen(colour)) + 0.0722 * part(qBlue(colour));
+}
+
+double Contrast(QRgb one, QRgb other) {
+  const double a = Luminance(one);
+  const double b = Luminance(other);
+  return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+// WIDGET as it is on its window, enlarged.
+QImage PictureOf(QWidget& widget) {
+  QWidget& window = *widget.window();
+  QImage whole(window.size() * kEnlarged, QImage::Format_RGB32);
+  whole.setDevicePixelRatio(kEnlarged);
+  whole.fill(QColor(palette::kNight));
+  window.render(&whole);
+  const QPoint corner = widget.mapTo(&window, QPoint());
+  return whole.copy(QRect(corner * kEnlarged, widget.size() * kEnlarged));
+}
+
+QRgb GroundOf(const QImage& picture) {
+  QHash<QRgb, int> counts;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) ++counts[picture.pixel(x, y)];
+  }
+  QRgb ground = 0;
+  int most = 0;
+  for (auto colour = counts.cbegin(); colour != counts.cend(); ++colour) {
+    if (colour.value() > most) {
+      most = colour.value();
+      ground = colour.key();
+    }
+  }
+  return ground;
+}
+
+// The contrast of the palest of the words on PICTURE: words are what stands apart by more than
+// half a letter.
+double PalestWord(const QImage& picture, int gap) {
+  const QRgb ground = GroundOf(picture);
+  double palest = 100;
+  double word = 0;
+  int blank = 0;
+  for (int x = 0; x < picture.width(); ++x) {
+    double column = 1;
+    for (int y = 0; y < picture.height(); ++y) {
+      column = std::max(column, Contrast(picture.pixel(x, y), ground));
+    }
+    if (column > 1.2) {
+      word = std::max(word, column);
+      blank = 0;
+    } else if (++blank == gap && word > 0) {
+      palest = std::min(palest, word);
+      word = 0;
+    }
+  }
+  return word > 0 ? std::min(palest, word) : palest;
+}
+
+QImage Inner(const QImage& picture, int border) {
+  const int inset = border * kEnlarged;
+  return picture.copy(picture.rect().adjusted(inset, inset, -inset, -inset));
+}
+
+// A window with a card on it, the palest ground that there is.
+class Look : public testing::Test {
+ protected:
+  Look() {
+    auto* layout = new QVBoxLayout(&window_);
+    card_ = new QFrame(&window_);
+    card_->setProperty("role", "card");
+    layout->addWidget(card_);
+    on_card_ = new QVBoxLayout(card_);
+  }
+
+  void ShowWindow() {
+    window_.show();
+    window_.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
+    Settle();
+  }
+
+  template <class Widget>
+  Widget& Add(Widget* widget) {
+    on_card_->addWidget(widget);
+    return *widget;
+  }
+
+  QWidget window_;
+  QFrame* card_;
+  QVBoxLayout* on_card_;
+};
+
+TEST_F(Look, EveryButtonIsReadableInEveryState) {
+  auto& elsewhere = Add(new QPushButton("Elsewhere"));
+  for (const char* role : {"", "primary", "big", "bigprimary", "mark", "link"}) {
+    auto& button = Add(new QPushButton(QString(role) == "mark" ? "x" : "&Begin"));
+    button.setProperty("role", role);
+    ShowWindow();
+    const auto expect = [&](const char* state) {
+      Settle();
+      EXPECT_GE(PalestWord(Inner(PictureOf(button), 3), 1000), kForText) << role << " " << state;
+    };
+    elsewhere.setFocus();
+    expect("at rest");
+    button.setAttribute(Qt::WA_UnderMouse);
+    button.update();
+    expect("hovered");
+    button.setDown(true);
+    expect("hovered and pressed");
+    button.setAttribute(Qt::WA_UnderMouse, false);
+    expect("pressed");
+    button.setDown(false);
+    button.setFocus();
+    expect("focused");
+    button.setEnabled(false);
+    expect("disabled");
+  }
+}
+
+TEST_F(Look, TheFocusChangesNothingInsideAButton) {
+  auto& elsewhere = Add(new QPushButton("Elsewhere"));
+  for (const char* role : {"", "primary", "big", "bigprimary"}) {
+    auto& button = Add(new QPushButton("&Begin"));
+    button.setProperty("role", role);
+    ShowWindow();
+    elsewhere.setFocus();
+    Settle();
+    const QImage without = PictureOf(button);
+    button.setFocus();
+    Settle();
+    const QImage with = PictureOf(button);
+    EXPECT_NE(with, without) << role;
+    // Without the round corners.
+    const QRect inside =
+        with.rect().adjusted(9 * kEnlarged, 3 * kEnlarged, -9 * kEnlarged, -3 * kEnlarged);
+    EXPECT_TRUE(with.copy(inside) == without.copy(inside)) << role;
+  }
+}
+
+TEST_F(Look, TheFocusIsSeen) {
+  auto& button = Add(new QPushButton("Begin"));
+  ShowWindow();
+  button.setFocus();
+  Settle();
+  const QImage picture = PictureOf(button);
+  EXPECT_GE(Contrast(picture.pixel(picture.width() / 2, kEnlarged), palette::kPanel), kForSigns);
+}
+
+struct Rows {
+  const char* what;
+  RowDelegate* delegate;
+  QString text;
+  double signs;  // how much of the row's left end is a sign, in line heights
+};
+
+TEST_F(Look, EveryRowIsReadableInEveryState) {
+  const auto own_team = [] { return QString("Boston Braves"); };
+  const Rows rows[] = {
+      {"news", new NewsDelegate(own_team, &window_), "Denver Blizzard beat Miami Heat 3 to 1", 1.5},
+      {"own news", new NewsDelegate(own_team, &window_), "Boston Braves tied Miami Heat at 1", 1.5},
+      {"history", new HistoryDelegate(own_team, &window_),
+       "Denver Blizzard has added James Smith to the team. Overall: 88", 2},
+      {"own history", new HistoryDelegate(own_team, &window_),
+       "Boston Braves has added James Smith to the team. Overall: 88", 2},
+      {"pass", new PlayDelegate(&window_), "James Smith passes it to John Brown", 2},
+      {"goal", new PlayDelegate(&window_), "James Smith SCORES! Assist by: John Brown", 2},
+      {"team", new TeamDelegate(League::kMiddle, own_team, &window_), "(3-1-0) Denver Blizzard", 0},
+      {"name", new TeamNameDelegate(QColor(palette::kBlue), &window_), "Denver Blizzard", 2},
+      {"other", new PlayerDelegate(&window_), "nobody in particular", 0},
+  };
+  for (const Rows& row : rows) {
+    auto& list = Add(new ListView);
+    QStringListModel model(QStringList(4, row.text));
+    list.setModel(&model);
+    list.setItemDelegate(row.delegate);
+    list.setMinimumSize(700, 160);
+    ShowWindow();
+    const auto expect = [&](int number, const char* state) {
+      Settle();
+      const QRect place = list.visualRect(model.index(number, 0));
+      QImage picture = PictureOf(*list.viewport());
+      const int from = qRound(row.signs * list.fontMetrics().height()) + 4;
+      picture =
+          picture.copy((place.left() + from) * kEnlarged, (place.top() + 3) * kEnlarged,
+                       (place.width() - from - 4) * kEnlarged, (place.height() - 6) * kEnlarged);
+      const int gap = list.fontMetrics().height() * kEnlarged / 3;
+      EXPECT_GE(PalestWord(picture, gap), kForText) << row.what << " " << state;
+    };
+    expect(1, "at rest");
+    QTest::mouseMove(list.viewport(), list.visualRect(model.index(2, 0)).center());
+    expect(2, "hovered");
+    list.setCurrentIndex(model.index(1, 0));
+    expect(1, "selected");
+    list.setFocus();
+    expect(1, "selected with the focus");
+    list.setEnabled(false);
+    expect(2, "disabled");
+    expect(1, "selected and disabled");
+    list.setItemDelegate(nullptr);
+    list.hide();
+  }
+}
+
+TEST_F(Look, EveryOtherTextIsReadable) {
+  for (const char* role : {"", "title", "heading", "value", "caption", "figure", "note", "team",
+                           "versus", "champion"}) {
+    auto& label = Add(new QLabel("Boston"));
+    label.setProperty("role", role);
+    ShowWindow();
+    EXPECT_GE(PalestWord(PictureOf(label), 1000), kForText) << role;
+    label.setEnabled(false);
+    Settle();
+    EXPECT_GE(PalestWord(PictureOf(label), 1000), kForText) << role << " disabled";
+    label.hide();
+  }
+  auto& edit = Add(new QLineEdit("Montreal"));
+  auto& combo = Add(new QComboBox);
+  combo.addItem("Rank F");
+  auto& tabs = Add(new QTabBar);
+  tabs.addTab("Main");
+  tabs.addTab("Alerts");
+  ShowWindow();
+  for (QWidget* widget : {static_cast<QWidget*>(&edit), static_cast<QWidget*>(&combo)}) {
+    EXPECT_GE(PalestWord(Inner(PictureOf(*widget), 3), 1000), kForText);
+    widget->setFocus();
+    Settle();
+    EXPECT_GE(PalestWord(Inner(PictureOf(*widget), 3), 1000), kForText);
+    widget->setEnabled(false);
+    Settle();
+    EXPECT_GE(PalestWord(Inner(PictureOf(*widget), 3), 1000), kForText) << "disabled";
+  }
+  for (int tab = 0; tab < 2; ++tab) {
+    const QRect place = tabs.tabRect(tab).adjusted(0, 0, 0, -5);
+    const QImage picture =
+        PictureOf(tabs).copy(QRect(place.topLeft() * kEnlarged, place.size() * kEnlarged));
+    EXPECT_GE(PalestWord(picture, 1000), kForText) << tab;
+  }
+}
+
+TEST_F(Look, EveryBadgeIsReadable) {
+  for (const char* position : {"GO", "RD", "LD", "RF", "CF", "LF", "??"}) {
+    QImage badge(90, 60, QImage::Format_RGB32);
+    badge.fill(QColor(palette::kDeep));
+    QPainter painter(&badge);
+    QFont font = QApplication::font();
+    font.setPixelSize(40);
+    painter.setFont(font);
+    PaintPositionBadge(painter, badge.rect(), position);
+    painter.end();
+    EXPECT_GE(PalestWord(badge.copy(8, 8, 74, 44), 1000), kForText) << position;
+  }
+}
+
+TEST(Letters, AnIKeepsItsDot) {
+  EXPECT_EQ(QApplication::font().hintingPreference(), QFont::PreferNoHinting);
+}
+
+TEST(Boxes, TheSignIsLevelWithTheTextAndTheBoxIsWideEnough) {
+  for (const BoxIcon icon : {BoxIcon::kStop, BoxIcon::kInformation, BoxIcon::kQuestion}) {
+    SignedBox box(icon, "File saved!", nullptr);
+    box.show();
+    Settle();
+    auto* words = box.findChild<QLabel*>("qt_msgbox_label");
+    auto* sign = box.findChild<QLabel*>("qt_msgboxex_icon_label");
+    ASSERT_NE(words, nullptr);
+    ASSERT_NE(sign, nullptr);
+    EXPECT_FALSE(sign->pixmap(Qt::ReturnByValue).isNull());
+    EXPECT_GE(box.width(), 24 * QFontInfo(QApplication::font()).pixelSize());
+    const auto middle = [&box](const QWidget& widget, double height) {
+      return widget.mapTo(&box, QPoint()).y() + height / 2;
+    };
+    const double size = sign->pixmap(Qt::ReturnByValue).deviceIndependentSize().height();
+    const QMargins around = sign->contentsMargins();
+    EXPECT_NEAR(middle(*words, words->height()), middle(*sign, sign->height()), 1.5)
+        << size << " " << around.top();
+  }
+}
+
+TEST(Boxes, TheSignsAreSeen) {
+  for (const BoxIcon icon : {BoxIcon::kStop, BoxIcon::kInformation, BoxIcon::kQuestion}) {
+    QImage picture(96, 96, QImage::Format_RGB32);
+    picture.fill(QColor(palette::kNight));
+    QPainter(&picture).drawPixmap(0, 0, BoxSign(icon, 96, 1));
+    // White on the disc, and the disc's edge on the box.
+    EXPECT_GE(PalestWord(picture.copy(28, 20, 40, 56), 1000), kForSigns);
+    QImage edge = picture.copy(0, 44, 10, 8);
+    double best = 0;
+    for (int x = 0; x < edge.width(); ++x) {
+      best = std::max(best, Contrast(edge.pixel(x, 4), palette::kNight));
+    }
+    EXPECT_GE(best, kForSigns);
+  }
+  EXPECT_TRUE(BoxSign(BoxIcon::kNone, 96, 1).isNull());
+}
+
+}  // namespace
+}  // namespace frostmark::test
