@@ -94,10 +94,12 @@ SignedBox::SignedBox(BoxIcon icon, const QString& text, QWidget* parent) : QMess
   if (sign.isNull()) return;
   setIconPixmap(sign);
   // A single line stands level with the middle of the sign.
-  if (auto* words = findChild<QLabel*>("qt_msgbox_label")) {
-    words->setMinimumHeight(size);
-    words->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-  }
+  auto* words = findChild<QLabel*>("qt_msgbox_label");
+  const auto* around = findChild<QLabel*>("qt_msgboxex_icon_label");
+  if (words == nullptr || around == nullptr) return;
+  around->ensurePolished();
+  words->setMinimumHeight(around->sizeHint().height());
+  words->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 }
 
 Answer ShowMessageBox(const MessageBox& box, QWidget* parent) {

@@ -91,7 +91,6 @@ void ListView::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void ListView::keyPressEvent(QKeyEvent* event) {
-  const int before = SelectedRow();
   switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -102,25 +101,31 @@ void ListView::keyPressEvent(QKeyEvent* event) {
       return;
     case Qt::Key_Up:
     case Qt::Key_Down:
+      // The first arrow in a list without a selection chooses the row that it stands on.
+      if (SelectedRow() < 0 && currentIndex().isValid()) {
+        emit Chosen(currentIndex().row());
+      } else {
+        Walk(*event);
+      }
+      return;
     case Qt::Key_PageUp:
     case Qt::Key_PageDown:
     case Qt::Key_Home:
     case Qt::Key_End:
-      // The first arrow in a list without a selection chooses the row that it stands on.
-      if (before < 0 && currentIndex().isValid()) {
-        emit Chosen(currentIndex().row());
-        return;
-      } else {
-        // With Ctrl a view would walk away from the lit row.
-        QKeyEvent plain(event->type(), event->key(), Qt::NoModifier);
-        QListView::keyPressEvent(&plain);
-      }
-      break;
+      Walk(*event);
+      return;
     default:
       QListView::keyPressEvent(event);
-      break;
   }
-  const int after = SelectedRow();
+}
+
+void ListView::Walk(const QKeyEvent& event) {
+  const int before = SelectedRow();
+  // With Ctrl a view would walk away from the lit row.
+  QKeyEvent plain(event.type(), event.key(), Qt::NoModifier);
+  QListView::keyPressEvent(&plain);
+  // A row that was walked to from nowhere may have been the current one before: then it is unlit.
+  const int after = currentIndex().isValid() ? currentIndex().row() : -1;
   if (after >= 0 && after != before) emit Chosen(after);
 }
 

@@ -40,6 +40,8 @@ class ListView : public QListView {
 
  private:
   int SelectedRow() const;
+  // Goes where EVENT, a key that walks through the list, leads.
+  void Walk(const QKeyEvent& event);
   // Whether EVENT is what chooses a row.
   bool IsChoice(const QMouseEvent& event) const;
 

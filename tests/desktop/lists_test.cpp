@@ -106,21 +106,21 @@ TEST_F(Lists, ARebuiltListStaysWhereItWasScrolledTo) {
   FDraft& draft = program().f_draft;
   ListView& list = Shown(draft, "List1_0");
   const auto fill = [&](int items) {
-    for (int i = 0; i < items; ++i) draft.List1[0].AddItem("James Smith 85/23");
+    for (int i = 0; i < items; ++i) draft.List1.shown.AddItem("James Smith 85/23");
   };
   fill(40);
   Settle();
   list.verticalScrollBar()->setValue(list.verticalScrollBar()->maximum() / 2);
   const int place = list.verticalScrollBar()->value();
   ASSERT_GT(place, 0);
-  draft.List1[0].Clear();
+  draft.List1.shown.Clear();
   for (int i = 0; i < 41; ++i) {  // line by line, as the draft does
     fill(1);
     Settle();
   }
   EXPECT_EQ(list.verticalScrollBar()->value(), place);
   // A list that gets shorter is at its end.
-  draft.List1[0].Clear();
+  draft.List1.shown.Clear();
   fill(2);
   Settle();
   EXPECT_EQ(list.verticalScrollBar()->value(), 0);

@@ -1,7 +1,7 @@
 // A record, a field's name and a value, a line each.
 #include <algorithm>
 
-#include "records/player_record.h"
+#include "records/lines/player_record.h"
 #include "records/runtime_error.h"
 #include "tests/fuzz/fuzz.h"
 

@@ -1,7 +1,7 @@
 // A team file and a standings file of any bytes.
 #include <algorithm>
 
-#include "records/player_record.h"
+#include "records/lines/player_record.h"
 #include "tests/fuzz/fuzz.h"
 #include "tests/fuzz/world_in_memory.h"
 
