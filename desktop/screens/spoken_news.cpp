@@ -3,16 +3,17 @@
 #include <QAbstractItemModel>
 #include <QEvent>
 #include <functional>
+#include <string>
 #include <utility>
 
 #include "desktop/announcer.h"
 #include "desktop/decorations.h"
-#include "desktop/delegates/play_delegate.h"
 #include "desktop/list_view.h"
 #include "desktop/screen_form.h"
 #include "draft/f_draft.h"
 #include "draft/f_results.h"
 #include "match/game.h"
+#include "records/lines/play_line.h"
 #include "shell/franchise.h"
 
 namespace frostmark {
@@ -60,11 +61,16 @@ void TellPlay(const Game& screen, ScreenForm& form) {
   const QAbstractItemModel* plays = Part<ListView>(form, "Events").model();
   QObject::connect(plays, &QAbstractItemModel::rowsInserted, &form,
                    [&screen, &form](const QModelIndex& /*parent*/, int row) {
-                     const QString play = QString::fromStdString(screen.Events.List(row));
-                     switch (PlayOf(play)) {
+                     const std::string& text = screen.Events.List(row);
+                     const auto line = ParsePlayLine(text);
+                     if (!line) return;
+                     const QString play = QString::fromStdString(text);
+                     switch (line->play) {
                        case Play::kGoal:
                          return Announce(form, play + ". " + Score(screen));
-                       case Play::kResult:
+                       case Play::kMatchEnd:
+                       case Play::kWin:
+                       case Play::kTie:
                          return Announce(form, play);
                        default:
                          return;
