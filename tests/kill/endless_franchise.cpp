@@ -107,7 +107,7 @@ class EndlessUser : public HeadlessDesktop {
   int years_ = -1;
 };
 
-void Play(const std::string& folder, const std::string& mode, int years) {
+void PlayOn(const std::string& folder, const std::string& mode, int years) {
   EndlessUser user;
   ClockDice dice;
   Program program(user, dice, folder);
@@ -132,7 +132,7 @@ void Play(const std::string& folder, const std::string& mode, int years) {
 int main(int argc, char* argv[]) {
   if (argc < 3) return 2;
   try {
-    frostmark::Play(argv[1], argv[2], argc > 3 ? std::atoi(argv[3]) : -1);
+    frostmark::PlayOn(argv[1], argv[2], argc > 3 ? std::atoi(argv[3]) : -1);
   } catch (const std::exception& error) {
     std::cerr << error.what() << '\n';
   }
