@@ -37,6 +37,9 @@ class Person {
 
   bool Done() const { return deeds_.empty(); }
 
+  // Whether WINDOW is the one that keys go to. Where there is no keyboard it is enough that it is
+  // to be seen.
+  static bool HasBefore(const QWidget& window);
   // The widget that keys go to now.
   static QWidget* Focus();
   static void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
