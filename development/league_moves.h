@@ -56,6 +56,8 @@ class LeagueMoves {
   bool MoveDown(std::size_t border);
   // Whether the border was open at first and has been closed since.
   bool TakenBack(std::size_t border) const { return planned_[border] && !open_[border]; }
+  // After both moves: whether the two teams of the border have changed places.
+  bool Crossed(std::size_t border) const { return open_[border]; }
   // To be called after the last move: removes the plan, unless a border has one team too many on a
   // side, for it could be neither finished nor taken back. The plan is then left for later.
   void Finish();

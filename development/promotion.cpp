@@ -98,6 +98,9 @@ void Franchise::theOffSeason() {
   move_down(loser, kTop - 1);
   results.Loser(kTop).SetCaption(loser);
   moves.Finish();
+  for (std::size_t border = 0; border < kBorders; ++border) {
+    results.crossed[border] = moves.Crossed(border);
+  }
 
   CopyTable(program_.desktop, StatRankA, results.List1);
   CopyTable(program_.desktop, StatRankB, results.List2);

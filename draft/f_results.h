@@ -79,6 +79,10 @@ class FResults : public Screen {
     return *losers.at(league);
   }
 
+  // For each border between two leagues, from 0 between "Rank F" and "Rank E": whether the first
+  // below it and the last above it have changed places.
+  std::array<bool, 5> crossed{};
+
   // draft/pool.cpp
   void ConnectDraftButton();
   // Rolls the pool of 120 players and runs the draft. Returns when the draft is over.

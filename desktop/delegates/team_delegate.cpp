@@ -14,7 +14,7 @@ namespace frostmark {
 namespace {
 
 void PaintTeam(QPainter& painter, const QStyleOptionViewItem& option, const StandingsLine& line,
-               int row, League league, const QFont& plain) {
+               int row, Fate fate, const QFont& plain) {
   const TeamColumns columns(plain);
   QRectF rest = QRectF(option.rect).adjusted(columns.gap, 0, -columns.gap, 0);
 
@@ -23,7 +23,7 @@ void PaintTeam(QPainter& painter, const QStyleOptionViewItem& option, const Stan
   row::PaintText(painter, place, QString::number(row + 1), row::QuietColor(option));
   QRectF mark(0, 0, columns.mark, columns.mark);
   mark.moveCenter(QPointF(place.right() + columns.gap + columns.mark / 2, rest.center().y()));
-  PaintFate(painter, mark, FateOf(league, row));
+  PaintFate(painter, mark, fate);
   rest.setLeft(mark.right() + columns.gap);
 
   const std::array counts = {line.ties, line.losses, line.wins};
@@ -41,8 +41,9 @@ void PaintTeam(QPainter& painter, const QStyleOptionViewItem& option, const Stan
 
 }  // namespace
 
-TeamDelegate::TeamDelegate(League league, std::function<QString()> own_team, QObject* parent)
-    : RowDelegate(parent), league_(league), own_team_(std::move(own_team)) {}
+TeamDelegate::TeamDelegate(std::function<Fate(int place)> fate_of,
+                           std::function<QString()> own_team, QObject* parent)
+    : RowDelegate(parent), fate_of_(std::move(fate_of)), own_team_(std::move(own_team)) {}
 
 bool TeamDelegate::PaintRow(QPainter& painter, const QStyleOptionViewItem& option,
                             const QModelIndex& index) const {
@@ -55,7 +56,7 @@ bool TeamDelegate::PaintRow(QPainter& painter, const QStyleOptionViewItem& optio
     dressed.font.setWeight(QFont::DemiBold);
     painter.setFont(dressed.font);
   }
-  PaintTeam(painter, dressed, *line, index.row(), league_, option.font);
+  PaintTeam(painter, dressed, *line, index.row(), fate_of_(index.row()), option.font);
   return true;
 }
 

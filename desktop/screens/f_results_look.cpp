@@ -18,46 +18,55 @@ namespace frostmark {
 
 namespace {
 
-// A label that names a team, and what the season brought it.
-struct Named {
-  const char* label;
-  Fate fate;
+// A league on the screen: its first, its last and its table.
+struct NamedLeague {
+  const char* first;
+  const char* last;
+  const char* table;
 };
 
-// Who is named where, from "Rank A" down.
-constexpr std::array kNamed = {
-    Named{"Label5", Fate::kChampion}, Named{"Label6", Fate::kGoesDown},
-    Named{"Label16", Fate::kGoesUp},  Named{"Label15", Fate::kGoesDown},
-    Named{"Label8", Fate::kGoesUp},   Named{"Label7", Fate::kGoesDown},
-    Named{"Label20", Fate::kGoesUp},  Named{"Label19", Fate::kGoesDown},
-    Named{"Label12", Fate::kGoesUp},  Named{"Label11", Fate::kGoesDown},
-    Named{"Label24", Fate::kGoesUp},  Named{"Label23", Fate::kStays},
+// From "Rank F" up.
+constexpr std::array kLeagues = {
+    NamedLeague{"Label24", "Label23", "List6"}, NamedLeague{"Label12", "Label11", "List5"},
+    NamedLeague{"Label20", "Label19", "List4"}, NamedLeague{"Label8", "Label7", "List3"},
+    NamedLeague{"Label16", "Label15", "List2"}, NamedLeague{"Label5", "Label6", "List1"},
 };
+constexpr std::size_t kTop = kLeagues.size() - 1;
+constexpr int kFirst = 0;
+constexpr int kLast = 5;
 
-constexpr std::array kTables = {"List1", "List2", "List3", "List4", "List5", "List6"};
+// What the season has brought to PLACE of LEAGUE: only who has really moved is up or down.
+Fate FateAfter(const FResults& screen, std::size_t league, int place) {
+  if (place == kFirst && league == kTop) return Fate::kChampion;
+  if (place == kFirst && league < kTop && screen.crossed[league]) return Fate::kGoesUp;
+  if (place == kLast && league > 0 && screen.crossed[league - 1]) return Fate::kGoesDown;
+  return Fate::kStays;
+}
 
 }  // namespace
 
 void DecorateFResults(FResults& screen, ScreenForm& form) {
   UsePosterFonts();
   const auto own_team = OwnTeam(screen);
-  for (const Named& named : kNamed) Part<FateLabel>(form, named.label).SetFate(named.fate);
-  const auto mark_own = [&form, own_team] {
-    for (const Named& named : kNamed) {
-      auto& label = Part<FateLabel>(form, named.label);
+  const auto mark = [&screen, &form, own_team] {
+    const auto mark_team = [&](const char* name, std::size_t league, int place) {
+      auto& label = Part<FateLabel>(form, name);
+      label.SetFate(label.text().isEmpty() ? Fate::kStays : FateAfter(screen, league, place));
       label.SetOwn(label.text() == own_team());
+    };
+    for (std::size_t league = 0; league < kLeagues.size(); ++league) {
+      mark_team(kLeagues[league].first, league, kFirst);
+      mark_team(kLeagues[league].last, league, kLast);
     }
   };
-  mark_own();
-  QObject::connect(&form, &ScreenForm::Refreshed, &form, mark_own);
+  mark();
+  QObject::connect(&form, &ScreenForm::Refreshed, &form, mark);
   TellChampion(screen, form);
 
-  for (std::size_t i = 0; i < kTables.size(); ++i) {
-    const League league = i == 0                    ? League::kTop
-                          : i + 1 == kTables.size() ? League::kBottom
-                                                    : League::kMiddle;
-    auto& list = Part<ListView>(form, kTables[i]);
-    list.setItemDelegate(new TeamDelegate(league, own_team, &list));
+  for (std::size_t league = 0; league < kLeagues.size(); ++league) {
+    auto& list = Part<ListView>(form, kLeagues[league].table);
+    const auto fate_of = [&screen, league](int place) { return FateAfter(screen, league, place); };
+    list.setItemDelegate(new TeamDelegate(fate_of, own_team, &list));
     GiveRoom(list, 44, 6);
   }
   SetLook(Part<QLabel>(form, "Champ"), "role", "champion");

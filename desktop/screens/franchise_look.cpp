@@ -37,7 +37,8 @@ void DressStandings(const Franchise& screen, ScreenForm& form) {
                           : i + 1 == kStandings.size() ? League::kTop
                                                        : League::kMiddle;
     auto& list = Part<ListView>(form, kStandings[i]);
-    auto* delegate = new TeamDelegate(league, OwnTeam(screen), &list);
+    const auto fate_of = [league](int place) { return FateOf(league, place); };
+    auto* delegate = new TeamDelegate(fate_of, OwnTeam(screen), &list);
     delegate->StretchRows(kStandingsStretch);
     list.setItemDelegate(delegate);
     GiveRoom(list, 44, 9);

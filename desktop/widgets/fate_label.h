@@ -16,6 +16,7 @@ class FateLabel : public QLabel {
 
   void SetFate(Fate fate);
   void SetOwn(bool own);
+  Fate GetFate() const { return fate_; }
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }

@@ -1,15 +1,20 @@
 #include <gtest/gtest.h>
 
+#include <QHelpEvent>
 #include <QLabel>
 #include <QScrollBar>
 #include <QStandardItemModel>
 #include <QTabWidget>
+#include <QTextDocument>
+#include <QToolTip>
 #include <QtTest>
 
 #include "desktop/delegates/row_delegate.h"
 #include "desktop/delegates/row_painter.h"
+#include "desktop/delegates/team_delegate.h"
 #include "desktop/list_view.h"
 #include "desktop/widgets/column_heading.h"
+#include "desktop/widgets/fate_label.h"
 #include "desktop/widgets/rink_view.h"
 #include "desktop/widgets/standings_heading.h"
 #include "records/leagues.h"
@@ -200,12 +205,59 @@ TEST_F(Lists, TheLongestLineOfEachFormIsWhole) {
 TEST_F(Lists, ALineThatDoesNotFitIsToldWhole) {
   ListView& list = Shown(program().franchise, "MainRoster");
   program().franchise.MainRoster.AddItem(FormatRosterLine(kLongRecord));
-  program().franchise.MainRoster.AddItem("CF - A B (85/23)");
-  const auto* delegate = qobject_cast<RowDelegate*>(list.itemDelegate());
+  program().franchise.MainRoster.AddItem("CF - A (85/23)");
+  auto* delegate = qobject_cast<RowDelegate*>(list.itemDelegate());
   QStyleOptionViewItem option;
   option.initFrom(&list);
   option.rect = QRect(0, 0, 120, 30);
-  EXPECT_TRUE(delegate->IsCut(option, list.model()->index(0, 0)));
+  const QPoint place = list.viewport()->mapToGlobal(QPoint(30, 10));
+  const auto told_at = [&](int row) {
+    QHelpEvent event(QEvent::ToolTip, QPoint(30, 10), place);
+    delegate->helpEvent(&event, &list, option, list.model()->index(row, 0));
+    QTextDocument told;
+    told.setHtml(QToolTip::text());
+    return told.toPlainText();
+  };
+  // In this order: a tip that has been shown goes only a moment after it is hidden.
+  EXPECT_EQ(told_at(1), "") << "a line that is whole";
+  EXPECT_EQ(told_at(0), FormatRosterLine(kLongRecord).c_str());
+  QToolTip::hideText();
+}
+
+TEST_F(Lists, OnlyTeamsThatHaveMovedAreMarkedAsUpOrDown) {
+  game_.Start();
+  game_.StartFranchise();
+  Franchise& franchise = program().franchise;
+  // Nobody comes down from "Rank B", so nobody goes up to it.
+  franchise.StatRankB.RemoveItem(5);
+  franchise.theOffSeason();
+  Settle();
+  const Screen& results = program().f_results;
+  const struct {
+    const char* first;
+    const char* last;
+    const char* table;
+    Fate fate_of_first;
+    Fate fate_of_last;
+  } leagues[] = {
+      {"Label5", "Label6", "List1", Fate::kChampion, Fate::kGoesDown},
+      {"Label16", "Label15", "List2", Fate::kGoesUp, Fate::kStays},
+      {"Label8", "Label7", "List3", Fate::kStays, Fate::kGoesDown},
+      {"Label20", "Label19", "List4", Fate::kGoesUp, Fate::kGoesDown},
+      {"Label12", "Label11", "List5", Fate::kGoesUp, Fate::kGoesDown},
+      {"Label24", "Label23", "List6", Fate::kGoesUp, Fate::kStays},
+  };
+  for (const auto& league : leagues) {
+    EXPECT_EQ(game_.On<FateLabel>(results, league.first).GetFate(), league.fate_of_first)
+        << league.first;
+    EXPECT_EQ(game_.On<FateLabel>(results, league.last).GetFate(), league.fate_of_last)
+        << league.last;
+    const auto* table =
+        qobject_cast<TeamDelegate*>(game_.On<ListView>(results, league.table).itemDelegate());
+    ASSERT_NE(table, nullptr);
+    EXPECT_EQ(table->FateOfPlace(0), league.fate_of_first) << league.table;
+    EXPECT_EQ(table->FateOfPlace(5), league.fate_of_last) << league.table;
+  }
 }
 
 TEST_F(Lists, HeadsStandOverTheirColumns) {

@@ -24,6 +24,7 @@
 #include "desktop/list_view.h"
 #include "desktop/palette.h"
 #include "desktop/widgets/position_badge.h"
+#include "desktop/widgets/rating_chip.h"
 #include "tests/desktop/person.h"
 
 namespace frostmark::test {
@@ -48,16 +49,18 @@ double Contrast(QRgb one, QRgb other) {
   return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
 }
 
-// WIDGET as it is on its window, enlarged.
-QImage PictureOf(QWidget& widget) {
+// PLACE of WIDGET as it is on its window, enlarged. No more than that is painted.
+QImage PictureOf(QWidget& widget, const QRect& place) {
+  QImage picture(place.size() * kEnlarged, QImage::Format_RGB32);
+  picture.setDevicePixelRatio(kEnlarged);
+  picture.fill(QColor(palette::kNight));
   QWidget& window = *widget.window();
-  QImage whole(window.size() * kEnlarged, QImage::Format_RGB32);
-  whole.setDevicePixelRatio(kEnlarged);
-  whole.fill(QColor(palette::kNight));
-  window.render(&whole);
-  const QPoint corner = widget.mapTo(&window, QPoint());
-  return whole.copy(QRect(corner * kEnlarged, widget.size() * kEnlarged));
+  window.render(&picture, QPoint(),
+                QRegion(QRect(widget.mapTo(&window, place.topLeft()), place.size())));
+  return picture;
 }
+
+QImage PictureOf(QWidget& widget) { return PictureOf(widget, widget.rect()); }
 
 QRgb GroundOf(const QImage& picture) {
   QHash<QRgb, int> counts;
@@ -85,7 +88,8 @@ double PalestWord(const QImage& picture, int gap) {
   for (int x = 0; x < picture.width(); ++x) {
     double column = 1;
     for (int y = 0; y < picture.height(); ++y) {
-      column = std::max(column, Contrast(picture.pixel(x, y), ground));
+      const QRgb colour = picture.pixel(x, y);
+      if (colour != ground) column = std::max(column, Contrast(colour, ground));
     }
     if (column > 1.2) {
       word = std::max(word, column);
@@ -197,6 +201,7 @@ struct Rows {
 
 TEST_F(Look, EveryRowIsReadableInEveryState) {
   const auto own_team = [] { return QString("Boston Braves"); };
+  const auto stays = [](int) { return Fate::kStays; };
   const Rows rows[] = {
       {"news", new NewsDelegate(own_team, &window_), "Denver Blizzard beat Miami Heat 3 to 1", 1.5},
       {"own news", new NewsDelegate(own_team, &window_), "Boston Braves tied Miami Heat at 1", 1.5},
@@ -206,7 +211,8 @@ TEST_F(Look, EveryRowIsReadableInEveryState) {
        "Boston Braves has added James Smith to the team. Overall: 88", 2},
       {"pass", new PlayDelegate(&window_), "James Smith passes it to John Brown", 2},
       {"goal", new PlayDelegate(&window_), "James Smith SCORES! Assist by: John Brown", 2},
-      {"team", new TeamDelegate(League::kMiddle, own_team, &window_), "(3-1-0) Denver Blizzard", 0},
+      {"team", new TeamDelegate(stays, own_team, &window_), "(3-1-0) Denver Blizzard", 0},
+      {"own team", new TeamDelegate(stays, own_team, &window_), "(3-1-0) Boston Braves", 0.2},
       {"name", new TeamNameDelegate(QColor(palette::kBlue), &window_), "Denver Blizzard", 2},
       {"other", new PlayerDelegate(&window_), "nobody in particular", 0},
   };
@@ -215,16 +221,13 @@ TEST_F(Look, EveryRowIsReadableInEveryState) {
     QStringListModel model(QStringList(4, row.text));
     list.setModel(&model);
     list.setItemDelegate(row.delegate);
-    list.setMinimumSize(700, 160);
+    list.setFixedSize(460, 160);
     ShowWindow();
     const auto expect = [&](int number, const char* state) {
       Settle();
       const QRect place = list.visualRect(model.index(number, 0));
-      QImage picture = PictureOf(*list.viewport());
       const int from = qRound(row.signs * list.fontMetrics().height()) + 4;
-      picture =
-          picture.copy((place.left() + from) * kEnlarged, (place.top() + 3) * kEnlarged,
-                       (place.width() - from - 4) * kEnlarged, (place.height() - 6) * kEnlarged);
+      const QImage picture = PictureOf(*list.viewport(), place.adjusted(from, 3, -4, -3));
       const int gap = list.fontMetrics().height() * kEnlarged / 3;
       EXPECT_GE(PalestWord(picture, gap), kForText) << row.what << " " << state;
     };
@@ -273,9 +276,41 @@ TEST_F(Look, EveryOtherTextIsReadable) {
   }
   for (int tab = 0; tab < 2; ++tab) {
     const QRect place = tabs.tabRect(tab).adjusted(0, 0, 0, -5);
-    const QImage picture =
-        PictureOf(tabs).copy(QRect(place.topLeft() * kEnlarged, place.size() * kEnlarged));
-    EXPECT_GE(PalestWord(picture, 1000), kForText) << tab;
+    const QImage at_rest = PictureOf(tabs, place);
+    EXPECT_GE(PalestWord(at_rest, 1000), kForText) << tab;
+  }
+}
+
+TEST_F(Look, TheFocusOfAListIsSeen) {
+  auto& list = Add(new ListView);
+  list.setFixedSize(200, 80);
+  ShowWindow();
+  list.setFocus();
+  Settle();
+  const QImage top = PictureOf(list, QRect(100, 0, 1, 6));
+  EXPECT_GE(Contrast(top.pixel(1, kEnlarged), palette::kPanel), kForSigns);
+}
+
+TEST_F(Look, EveryRatingOnTheIceIsReadable) {
+  for (const QRgb jersey : {palette::kBlueDeep, palette::kRedDeep}) {
+    auto& chip = Add(new RatingChip);
+    chip.setText("88");
+    chip.SetColour(jersey);
+    chip.setFixedSize(chip.sizeHint());
+    ShowWindow();
+    // The ground is palest at its top, between the rim and the figures.
+    const int high = chip.height();
+    const QImage ground = PictureOf(chip, QRect(chip.width() / 2, high / 5, 1, high / 10));
+    const QImage figures =
+        PictureOf(chip, QRect(high / 4, high / 4, chip.width() - high / 2, high / 2));
+    double brightest = 0;
+    for (int x = 0; x < figures.width(); ++x) {
+      brightest = std::max(brightest, Luminance(figures.pixel(x, figures.height() / 2)));
+    }
+    EXPECT_GT(brightest, 0.95) << "white";
+    for (int y = 0; y < ground.height(); ++y) {
+      EXPECT_GE(Contrast(ground.pixel(0, y), qRgb(255, 255, 255)), kForText) << y;
+    }
   }
 }
 

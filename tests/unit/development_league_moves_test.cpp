@@ -130,6 +130,7 @@ TEST_F(LeagueMovesTest, ATeamThatMayNotMoveKeepsItsPartnerToo) {
     EXPECT_TRUE(LiesIn("B5 Wolves", "Rank B"));
     EXPECT_TRUE(LiesIn("A5 Wolves", "Rank B"));
     EXPECT_EQ(franchise().MyRank.Caption(), "Rank C");
+    EXPECT_FALSE(program().f_results.crossed[3]);
     EXPECT_TRUE(program().f_results.Visible());
     EXPECT_FALSE(IsPlanned());
   }

@@ -1,3 +1,4 @@
+#include <array>
 #include <filesystem>
 
 #include "tests/unit/game_fixture.h"
@@ -7,6 +8,8 @@
 
 namespace frostmark::testing {
 namespace {
+
+using Borders = std::array<bool, 5>;  // from that of "Rank F" up
 
 class PromotionTest : public GameFixture {
  protected:
@@ -71,6 +74,19 @@ TEST_F(PromotionTest, FirstsGoUpAndLastsGoDown) {
   EXPECT_EQ(ReadLines(world.TeamPath("Rank E", "F0 Wolves")), MakeRoster(74));
   EXPECT_EQ(ReadLines(world.TeamPath("Rank B", "A5 Wolves")), MakeRoster(94));
   EXPECT_EQ(world.Everything().size(), before.size());
+}
+
+TEST_F(PromotionTest, TheScreenKnowsWhoHasMoved) {
+  EXPECT_EQ(results().crossed, Borders{});
+  franchise().theOffSeason();
+  EXPECT_EQ(results().crossed, (Borders{true, true, true, true, true}));
+}
+
+TEST_F(PromotionTest, NobodyHasMovedAcrossAClosedBorder) {
+  std::filesystem::remove(world.TeamPath("Rank D", "D0 Wolves"));
+  franchise().StatRankB.RemoveItem(5);
+  franchise().theOffSeason();
+  EXPECT_EQ(results().crossed, (Borders{true, true, false, false, true}));
 }
 
 TEST_F(PromotionTest, TheLabelsNameThemAll) {
