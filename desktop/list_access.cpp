@@ -120,7 +120,7 @@ QAccessibleInterface* ListAccess::child(int row) const {
   const QPersistentModelIndex index(view_.model()->index(row, 0));
   const auto known = rows_.constFind(index);
   if (known != rows_.constEnd()) return QAccessible::accessibleInterface(*known);
-  if (rows_.size() > 2 * childCount()) ForgetGoneRows();
+  if (rows_.size() / 2 > childCount()) ForgetGoneRows();
   auto* made = new RowAccess(view_, index);
   rows_.insert(index, QAccessible::registerAccessibleInterface(made));
   return made;

@@ -108,7 +108,7 @@ Answer QtDesktop::ShowBox(const MessageBox& box) {
 }
 
 std::string QtDesktop::AskText(const std::string& prompt) {
-  const std::string text = AskForText(prompt, FrontWindow());
+  std::string text = AskForText(prompt, FrontWindow());
   StopIfEnded();
   return text;
 }
