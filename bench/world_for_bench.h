@@ -3,8 +3,8 @@
 #include <memory>
 #include <string>
 
+#include "program/program.h"
 #include "records/dice.h"
-#include "shell/program.h"
 #include "ui/headless_desktop.h"
 
 namespace frostmark {

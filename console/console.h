@@ -11,7 +11,7 @@
 #include "console/prompt.h"
 #include "console/script_stack.h"
 #include "console/transcript.h"
-#include "shell/program.h"
+#include "program/program.h"
 
 namespace frostmark {
 

@@ -3,8 +3,8 @@
 #include <functional>
 #include <string>
 
+#include "program/program.h"
 #include "records/record_list.h"
-#include "shell/program.h"
 
 namespace frostmark {
 

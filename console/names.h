@@ -8,7 +8,7 @@
 #include <variant>
 #include <vector>
 
-#include "shell/program.h"
+#include "program/program.h"
 
 namespace frostmark {
 

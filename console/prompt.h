@@ -11,7 +11,7 @@
 #include "console/script_stack.h"
 #include "console/terminal_size.h"
 #include "console/transcript.h"
-#include "shell/program.h"
+#include "program/program.h"
 
 namespace frostmark {
 

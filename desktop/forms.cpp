@@ -1,6 +1,6 @@
 #include "desktop/decorations.h"
 #include "desktop/screen_form.h"
-#include "shell/program.h"
+#include "program/program.h"
 #include "ui_f_draft.h"
 #include "ui_f_player.h"
 #include "ui_f_results.h"

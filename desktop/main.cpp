@@ -7,9 +7,9 @@
 
 #include "desktop/qt_desktop.h"
 #include "desktop/style.h"
+#include "program/program.h"
 #include "records/dice.h"
 #include "records/world_claim.h"
-#include "shell/program.h"
 
 namespace {
 

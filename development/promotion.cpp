@@ -3,9 +3,9 @@
 #include <cmath>
 
 #include "development/league_moves.h"
+#include "program/program.h"
 #include "records/leagues.h"
 #include "records/lines/standings_line.h"
-#include "shell/program.h"
 
 namespace frostmark {
 namespace {

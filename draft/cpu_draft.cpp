@@ -3,9 +3,9 @@
 #include <chrono>
 #include <cmath>
 
+#include "program/program.h"
 #include "records/leagues.h"
 #include "records/runtime_error.h"
-#include "shell/program.h"
 
 namespace frostmark {
 

@@ -1,6 +1,6 @@
+#include "program/program.h"
 #include "records/lines/history_line.h"
 #include "records/lines/player_line.h"
-#include "shell/program.h"
 
 namespace frostmark {
 

@@ -1,6 +1,6 @@
+#include "program/program.h"
 #include "records/lines/news_line.h"
 #include "records/lines/standings_line.h"
-#include "shell/program.h"
 
 namespace frostmark {
 

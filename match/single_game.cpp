@@ -1,5 +1,5 @@
+#include "program/program.h"
 #include "records/leagues.h"
-#include "shell/program.h"
 
 namespace frostmark {
 

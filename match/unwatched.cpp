@@ -1,8 +1,8 @@
 #include <utility>
 
 #include "match/game_simulation.h"
+#include "program/program.h"
 #include "records/pair_search.h"
-#include "shell/program.h"
 
 namespace frostmark {
 namespace {

@@ -1,5 +1,5 @@
 #include "match/game.h"
-#include "shell/program.h"
+#include "program/program.h"
 
 // The watched match machine. It rolls as the unwatched one does, but stands on this screen's own
 // lists and score, tells what happens, and treats an empty centre its own way.

@@ -1,5 +1,5 @@
 #include "match/game.h"
-#include "shell/program.h"
+#include "program/program.h"
 
 namespace frostmark {
 

@@ -1,8 +1,8 @@
 #include <array>
 
+#include "program/program.h"
 #include "records/leagues.h"
 #include "records/lines/player_line.h"
-#include "shell/program.h"
 
 namespace frostmark {
 namespace {

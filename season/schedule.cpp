@@ -1,9 +1,9 @@
 #include <algorithm>
 
+#include "program/program.h"
 #include "records/leagues.h"
 #include "records/lines/standings_line.h"
 #include "season/week_table.h"
-#include "shell/program.h"
 
 namespace frostmark {
 void Franchise::GenSchedule() {

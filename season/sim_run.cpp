@@ -1,6 +1,6 @@
 #include <cmath>
 
-#include "shell/program.h"
+#include "program/program.h"
 
 namespace frostmark {
 namespace {

@@ -1,9 +1,9 @@
 #include <algorithm>
 #include <array>
 
+#include "program/program.h"
 #include "records/leagues.h"
 #include "season/week_table.h"
-#include "shell/program.h"
 
 namespace frostmark {
 

@@ -1,5 +1,5 @@
+#include "program/program.h"
 #include "records/lines/player_line.h"
-#include "shell/program.h"
 #include "shell/under_way.h"
 
 namespace frostmark {

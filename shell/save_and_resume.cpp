@@ -4,9 +4,9 @@
 #include <system_error>
 #include <vector>
 
+#include "program/program.h"
 #include "records/leagues.h"
 #include "records/whole_file.h"
-#include "shell/program.h"
 #include "shell/under_way.h"
 
 namespace frostmark {

@@ -2,8 +2,8 @@
 #include <limits>
 
 #include "development/league_moves.h"
+#include "program/program.h"
 #include "records/leagues.h"
-#include "shell/program.h"
 #include "shell/under_way.h"
 
 namespace frostmark {

@@ -4,8 +4,8 @@
 #include "bench/startup/end_at_first_frame.h"
 #include "desktop/qt_desktop.h"
 #include "desktop/style.h"
+#include "program/program.h"
 #include "records/dice.h"
-#include "shell/program.h"
 
 // The start of the desktop program, up to its first frame.
 int main(int argc, char** argv) {

@@ -10,8 +10,8 @@
 #include "desktop/qt_desktop.h"
 #include "desktop/screen_form.h"
 #include "desktop/screen_window.h"
+#include "program/program.h"
 #include "records/dice.h"
-#include "shell/program.h"
 
 namespace frostmark::test {
 

@@ -12,7 +12,7 @@
 #include <iostream>
 #include <string>
 
-#include "shell/program.h"
+#include "program/program.h"
 #include "ui/headless_desktop.h"
 
 namespace frostmark {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "shell/program.h"
+#include "program/program.h"
 #include "ui/headless_desktop.h"
 
 namespace frostmark::testing {

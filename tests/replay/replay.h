@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "shell/program.h"
+#include "program/program.h"
 #include "tests/reference/reference_game.h"
 #include "tests/replay/replay_desktop.h"
 #include "tests/replay/tracing_dice.h"

@@ -3,7 +3,7 @@
 #include <stdexcept>
 #include <utility>
 
-#include "shell/program.h"
+#include "program/program.h"
 
 namespace frostmark::replay {
 

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "shell/program.h"
+#include "program/program.h"
 #include "tests/unit/scripted_dice.h"
 #include "ui/headless_desktop.h"
 

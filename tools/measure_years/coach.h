@@ -4,7 +4,7 @@
 #include <random>
 #include <string>
 
-#include "shell/program.h"
+#include "program/program.h"
 #include "ui/headless_desktop.h"
 
 namespace frostmark {

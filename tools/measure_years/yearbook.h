@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "program/program.h"
 #include "records/leagues.h"
-#include "shell/program.h"
 
 namespace frostmark {
 

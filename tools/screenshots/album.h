@@ -8,8 +8,8 @@
 #include <string>
 
 #include "desktop/qt_desktop.h"
+#include "program/program.h"
 #include "records/dice.h"
-#include "shell/program.h"
 
 namespace frostmark {
 
