@@ -7,6 +7,7 @@ namespace frostmark {
 Program::Program(Desktop& desktop_of_user, Dice& dice, std::string app_path)
     : desktop(desktop_of_user),
       ordvik(*this, desktop_of_user, dice, std::move(app_path)),
+      under_way(ordvik),
       hockey_naming(*this, desktop_of_user, ordvik),
       game_simulation(*this),
       startup(*this),

@@ -13,6 +13,7 @@
 #include "shell/f_player.h"
 #include "shell/franchise.h"
 #include "shell/startup.h"
+#include "shell/under_way.h"
 #include "ui/desktop.h"
 #include "world/team_creator.h"
 
@@ -34,6 +35,7 @@ class Program {
   ScreenList screens;
 
   Ordvik ordvik;
+  UnderWay under_way;
   HockeyNaming hockey_naming;
   GameSimulation game_simulation;
 

@@ -1,6 +1,5 @@
 #include "program/program.h"
 #include "records/lines/player_line.h"
-#include "shell/under_way.h"
 
 namespace frostmark {
 
@@ -17,7 +16,7 @@ void Startup::PressNew() {
   // Where a build or a beginning was cut off there is none, whatever the folder holds.
   constexpr int kTeamsOfRunningGame = 6;
   (void)FinishCutOffWork(program_.ordvik);
-  const bool cut_off = UnderWay(program_.ordvik).IsSet();
+  const bool cut_off = program_.under_way.IsCutOff();
   File1.SetPath(program_.ordvik.RankFolder("Rank F"));
   if (cut_off) {
     BuildLeague();
@@ -54,7 +53,7 @@ void Startup::PressBegin() {
   Franchise& franchise = program_.franchise;
   const ListBox& team = program_.team_creator.List1;
   const std::string name = Text1.Text() + " " + Text2.Text();
-  UnderWay(program_.ordvik).MarkBeginning();
+  UnderWay::Beginning beginning(program_.under_way);
   program_.ordvik.SaveListFile(team, program_.ordvik.TeamPath("Rank F", name));
   Hide();
   franchise.Show();
@@ -69,6 +68,7 @@ void Startup::PressBegin() {
   Frame1.Hide();
   HighButton4.Hide();
   HighButton5.Hide();
+  beginning.Ready();
   franchise.SaveGame();
 }
 

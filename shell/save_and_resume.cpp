@@ -51,8 +51,7 @@ void Franchise::SaveGame() {
     ordvik.SaveListFile(*standings, SavedFile(ordvik, *standings), save);
   }
   ordvik.SaveListFile(Alerts, SavedFile(ordvik, Alerts), save);
-  // There is a whole game again, so nothing is left of a beginning.
-  if (save.Commit() && !UnderWay(ordvik).IsBuild()) UnderWay(ordvik).Clear();
+  if (save.Commit()) program_.under_way.Saved();
   // Said in any case: no file operation tells how it went.
   program_.desktop.ShowBox({BoxIcon::kInformation, BoxButtons::kOk, "File saved!"});
 }
@@ -142,7 +141,7 @@ std::optional<SavedGame> FindSavedGame(Program& program) {
 void Startup::PressLoad() {
   Ordvik& ordvik = program_.ordvik;
   Franchise& franchise = program_.franchise;
-  if (!FinishCutOffWork(ordvik) || UnderWay(ordvik).IsBuild()) return;
+  if (!FinishCutOffWork(ordvik) || program_.under_way.IsBuild()) return;
   const auto game = FindSavedGame(program_);
   if (!game) return;
   const auto load = [&](ListBox& list) {

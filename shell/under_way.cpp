@@ -1,5 +1,7 @@
 #include "shell/under_way.h"
 
+#include <string_view>
+
 #include "development/league_moves.h"
 #include "records/whole_file.h"
 
@@ -12,13 +14,49 @@ constexpr std::string_view kBeginning = "begin\r\n";
 
 }  // namespace
 
-void UnderWay::MarkBuild() {
-  (void)ordvik_.files().WriteForGood(ordvik_.SettingsPath(kMark), kBuild);
+UnderWay::Build::Build(UnderWay& under_way) : under_way_(under_way) {
+  if (under_way_.builds_++ == 0) under_way_.whole_ = true;
+  under_way_.Mark(kBuild);
 }
 
-void UnderWay::MarkBeginning() {
-  if (IsBuild()) return;  // a franchise does not make its world whole
-  (void)ordvik_.files().WriteForGood(ordvik_.SettingsPath(kMark), kBeginning);
+void UnderWay::Build::Complete(bool whole) {
+  under_way_.whole_ = under_way_.whole_ && whole;
+  if (under_way_.builds_ > 1 || !under_way_.whole_) return;
+  if (under_way_.beginnings_ > 0) {
+    under_way_.Mark(kBeginning);
+  } else {
+    under_way_.Clear();
+  }
+}
+
+UnderWay::Beginning::Beginning(UnderWay& under_way) : under_way_(under_way) {
+  ++under_way_.beginnings_;
+  // A franchise does not make its world whole.
+  if (!under_way_.IsBuild()) under_way_.Mark(kBeginning);
+}
+
+UnderWay::Beginning::~Beginning() {
+  --under_way_.beginnings_;
+  if (ready_) --under_way_.ready_;
+}
+
+void UnderWay::Beginning::Ready() {
+  ready_ = true;
+  ++under_way_.ready_;
+}
+
+void UnderWay::Saved() {
+  if (builds_ == 0 && ready_ == beginnings_ && !IsBuild()) Clear();
+}
+
+bool UnderWay::IsSet() const { return Ordvik::FileExists(ordvik_.SettingsPath(kMark)); }
+
+bool UnderWay::IsBuild() const {
+  return IsSet() && ordvik_.files().Read(ordvik_.SettingsPath(kMark)) != kBeginning;
+}
+
+void UnderWay::Mark(std::string_view work) {
+  (void)ordvik_.files().WriteForGood(ordvik_.SettingsPath(kMark), work);
 }
 
 void UnderWay::Clear() {
@@ -28,12 +66,6 @@ void UnderWay::Clear() {
   ordvik_.files().FlushFolders();
   Ordvik::DeleteFile(ordvik_.SettingsPath(kMark));
   (void)FlushFolder(ordvik_.AppPath() + "/Settings");
-}
-
-bool UnderWay::IsSet() const { return Ordvik::FileExists(ordvik_.SettingsPath(kMark)); }
-
-bool UnderWay::IsBuild() const {
-  return IsSet() && ordvik_.files().Read(ordvik_.SettingsPath(kMark)) != kBeginning;
 }
 
 bool FinishCutOffWork(Ordvik& ordvik) {

@@ -4,7 +4,6 @@
 #include "development/league_moves.h"
 #include "program/program.h"
 #include "records/leagues.h"
-#include "shell/under_way.h"
 
 namespace frostmark {
 namespace {
@@ -57,7 +56,7 @@ void Startup::BuildLeague() {
       {BoxIcon::kInformation, BoxButtons::kOk, "Please wait as this may take some time..."});
   for (const char* city : kCities) List3.AddItem(city);
   for (const char* nickname : kNicknames) List4.AddItem(nickname);
-  UnderWay(program_.ordvik).MarkBuild();
+  UnderWay::Build build(program_.under_way);
   ForgetLeagueMoves(program_.ordvik);
   bool whole = true;
   for (const char* rank : kRanks) {
@@ -76,7 +75,7 @@ void Startup::BuildLeague() {
     }
   }
   // A world that lacks a team, or has kept one of the world before, cannot be played.
-  if (whole) UnderWay(program_.ordvik).Clear();
+  build.Complete(whole);
   program_.franchise.Season.SetCaption("0");
   program_.franchise.Champion.SetCaption("0");
 }

@@ -8,6 +8,7 @@
 
 #include "records/lines/player_line.h"
 #include "records/lines/standings_line.h"
+#include "tests/unit/full_disk.h"
 #include "tests/unit/game_fixture.h"
 #include "tests/unit/watchful_desktop.h"
 
@@ -534,6 +535,91 @@ TEST_F(CutOffNewTest, ABeginningThatWasCutOffBeforeItsSaveIsBuiltOver) {
   NewInANewRun();
   EXPECT_EQ(desktop().Boxes().size(), 1U);  // no question
   EXPECT_EQ(TeamsIn("Rank F"), 5U);
+}
+
+// A press of "New" in one of its yields, and a kill in the yields after that.
+TEST_F(CutOffNewTest, ABuildWithinABuildLeavesTheMarkToTheOuterOne) {
+  bool nested = false;
+  desktop().AtYield([this, &nested] {
+    startup().BuildLeague();
+    nested = true;
+    EXPECT_TRUE(IsMarked());
+    desktop().AtYield([] { throw CutOff(); });
+  });
+  EXPECT_THROW(New(), CutOff);
+  EXPECT_TRUE(nested);
+  EXPECT_TRUE(IsMarked());
+  NewInANewRun();
+  EXPECT_FALSE(IsMarked());
+  for (const char* rank : kRanks) EXPECT_EQ(TeamsIn(rank), rank == kRanks[0] ? 5U : 6U);
+}
+
+TEST_F(CutOffNewTest, ABuildWithinABuildLeavesNoMarkWhenBothAreOver) {
+  desktop().AtYield([this] { startup().BuildLeague(); });
+  New();
+  EXPECT_FALSE(IsMarked());
+}
+
+// One that could not be made whole leaves it, however the others around it have ended.
+TEST_F(CutOffNewTest, ABuildWithinABuildThatIsNotWholeKeepsTheMark) {
+  desktop().AtYield([this] {
+    const FullDisk full(0);
+    startup().BuildLeague();
+  });
+  New();
+  EXPECT_TRUE(IsMarked());
+}
+
+// The mark of this program's own work is no sign of a cut: the count of teams decides as ever.
+TEST_F(CutOffNewTest, NewWithinABuildAsksByTheCountOfTeams) {
+  world.FillWorld();
+  for (const char* rank : {"Rank E", "Rank D", "Rank C", "Rank B", "Rank A"}) {
+    for (const std::string& team : world.FileNames(rank)) {
+      Ordvik::DeleteFile(world.TeamPath(rank, team));
+    }
+  }
+  desktop().QueueAnswer("yes");
+  desktop().AtYield([this] {
+    EXPECT_EQ(TeamsIn("Rank F"), 5U);
+    New();
+    EXPECT_EQ(desktop().Boxes().size(), 2U);  // the question, and that it takes time
+  });
+  New();
+}
+
+TEST_F(CutOffNewTest, ASaveWithinABeginningLeavesItTheMark) {
+  New();
+  Generate();
+  for (int i = 0; i < 15; ++i) desktop().AtYield([] {});  // the roster is being filled
+  desktop().AtYield([this] {
+    ASSERT_TRUE(franchise().Visible());
+    franchise().HighButton3.Click();
+    EXPECT_TRUE(IsMarked());
+  });
+  Begin();
+  EXPECT_FALSE(IsMarked());
+}
+
+TEST_F(CutOffNewTest, ABuildWithinABeginningLeavesItTheMarkOfABeginning) {
+  New();
+  Generate();
+  desktop().AtYield([this] {
+    startup().BuildLeague();
+    EXPECT_EQ(ReadText(world.SettingsPath("unfinished.new")), "begin\r\n");
+  });
+  Begin();
+  EXPECT_FALSE(IsMarked());
+}
+
+TEST_F(CutOffNewTest, ABeginningWithinABeginningLeavesTheMarkToTheOuterOne) {
+  New();
+  Generate();
+  desktop().AtYield([this] {
+    Begin();
+    EXPECT_TRUE(IsMarked());
+  });
+  Begin();
+  EXPECT_FALSE(IsMarked());
 }
 
 // It is saved before the box says so.
