@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "records/unfinished.h"
 #include "records/whole_file.h"
 
 namespace frostmark {
@@ -71,20 +72,11 @@ bool Complete(const Ordvik& ordvik, const LeagueMoves::Border& teams, std::size_
   return TakeBack(down) && up_is_back;
 }
 
-std::vector<std::string> LinesOf(std::string_view text) {
-  std::vector<std::string> lines;
-  for (std::size_t end = text.find('\n'); end != std::string_view::npos; end = text.find('\n')) {
-    lines.emplace_back(text.substr(0, end));
-    text.remove_prefix(end + 1);
-  }
-  return lines;
-}
-
 using Plan = std::vector<std::pair<std::size_t, LeagueMoves::Border>>;
 
 // The plan in TEXT. It may be foreign: what does not fit is left out.
 Plan ReadPlan(std::string_view text) {
-  const std::vector<std::string> lines = LinesOf(text);
+  const std::vector<std::string> lines = WholeLines(text);
   Plan plan;
   if (lines.size() < 2 || lines.front() != kHeading || lines.back() != kEnd) return plan;
   for (std::size_t i = 1; i + kLinesOfBorder < lines.size(); i += kLinesOfBorder) {

@@ -23,15 +23,6 @@ bool MayBeSaved(std::string_view name) {
   return name.ends_with(".fmk") && name.find('/') == std::string_view::npos;
 }
 
-std::vector<std::string> LinesOf(std::string_view text) {
-  std::vector<std::string> lines;
-  for (std::size_t end = text.find('\n'); end != std::string_view::npos; end = text.find('\n')) {
-    lines.emplace_back(text.substr(0, end));
-    text.remove_prefix(end + 1);
-  }
-  return lines;
-}
-
 }  // namespace
 
 FileStore::Save::Save(FileStore& store) : store_(store) { store_.saves_.push_back(this); }
@@ -120,7 +111,7 @@ bool FileStore::FinishSaves() {
 bool FileStore::CarryOut(const std::string& list) {
   const auto content = ReadWholeFile(list);
   if (!content) return NothingLiesAt(list);  // another program may have carried it out
-  const std::vector<std::string> lines = LinesOf(*content);
+  const std::vector<std::string> lines = WholeLines(*content);
   bool all = true;
   if (lines.size() >= 2 && lines.front() == kHeading && lines.back() == kEnd) {
     for (std::size_t i = 1; i + 2 < lines.size(); i += 2) {

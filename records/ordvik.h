@@ -66,7 +66,7 @@ class Ordvik {
   // Deletes the file at PATH; what cannot be deleted stays.
   static void DeleteFile(const std::string& path);
   // Moves the file SOURCE to DESTINATION, over a file that may be there. False when that is not
-  // possible; SOURCE is then whole where it was, and DESTINATION holds no part of it.
+  // possible; both are then as they were.
   static bool MoveFile(const std::string& source, const std::string& destination);
   // Whether NAME can be the name of a file in a folder: not empty, and no way into another folder.
   static bool IsFileName(std::string_view name);

@@ -47,6 +47,15 @@ bool Runs(std::string_view process) {
 
 }  // namespace
 
+std::vector<std::string> WholeLines(std::string_view text) {
+  std::vector<std::string> lines;
+  for (std::size_t end = text.find('\n'); end != std::string_view::npos; end = text.find('\n')) {
+    lines.emplace_back(text.substr(0, end));
+    text.remove_prefix(end + 1);
+  }
+  return lines;
+}
+
 UnfinishedFiles::UnfinishedFiles(std::string folder) : folder_(std::move(folder)) {}
 
 std::string UnfinishedFiles::NextTemporary() {

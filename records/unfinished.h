@@ -7,6 +7,9 @@
 
 namespace frostmark {
 
+// The lines of TEXT, each ended by a line feed. One without its end is incomplete and left out.
+std::vector<std::string> WholeLines(std::string_view text);
+
 // The names of files that live only while something is being written. They lie in Settings and
 // never in a league's folder, where every file is a team. Each process has names of its own, so
 // that two programs in one world do not write into each other's.

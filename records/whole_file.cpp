@@ -68,9 +68,10 @@ int ReplaceContent(Descriptor& file, std::string_view content, std::string_view 
     error = errno;
   if (error == 0) error = Flush(file);
   if (error == 0) return 0;
-  if (lseek(file.number(), 0, SEEK_SET) == 0 && WriteAll(file, old) == 0) {
-    (void)!ftruncate(file.number(), static_cast<off_t>(old.size()));
-  }
+  // Each as far as it can be done: where not a byte could be written, the length is all that has
+  // changed.
+  if (lseek(file.number(), 0, SEEK_SET) == 0) (void)WriteAll(file, old);
+  (void)!ftruncate(file.number(), static_cast<off_t>(old.size()));
   return error;
 }
 
@@ -78,6 +79,34 @@ int TakeRoom(const Descriptor& file, std::size_t size, off_t old_size) {
   if (static_cast<off_t>(size) <= old_size) return 0;
   const int error = posix_fallocate(file.number(), 0, static_cast<off_t>(size));
   if (error != 0) (void)!ftruncate(file.number(), old_size);
+  return error;
+}
+
+// The file at DESTINATION again as it was: OLD, or nothing.
+void PutBack(const std::string& destination, const std::optional<std::string>& old) {
+  if (old) {
+    (void)OverwriteFile(destination, *old);
+  } else {
+    (void)unlink(destination.c_str());
+  }
+}
+
+// SOURCE goes only when its copy is on the disk for good.
+int CopyAndDelete(const std::string& source, const std::string& destination) {
+  const auto content = ReadWholeFile(source);
+  if (!content) return EIO;
+  std::optional<std::string> old;
+  int error = 0;
+  if (NothingLiesAt(destination)) {
+    error = WriteNewFile(destination, *content, source);
+  } else {
+    old = ReadWholeFile(destination);
+    error = old ? OverwriteFile(destination, *content) : EIO;
+  }
+  if (error != 0) return error;
+  error = FlushFolder(destination.substr(0, destination.rfind('/')));
+  if (error == 0 && unlink(source.c_str()) != 0) error = errno;
+  if (error != 0) PutBack(destination, old);
   return error;
 }
 
@@ -127,9 +156,10 @@ int OverwriteFile(const std::string& path, std::string_view content) {
   if (!file.IsOpen()) return errno;
   const auto status = RegularFile(file);
   if (!status) return EINVAL;
-  const std::string old = ReadWholeFile(path).value_or("");
+  const auto old = ReadWholeFile(path);
+  if (!old) return EIO;  // it could not be put back
   if (const int error = TakeRoom(file, content.size(), status->st_size)) return error;
-  if (const int error = ReplaceContent(file, content, old)) return error;
+  if (const int error = ReplaceContent(file, content, *old)) return error;
   return file.Close();
 }
 
@@ -139,16 +169,7 @@ bool OnlyOverwritingMayHelp(int error) {
 
 int MoveWholeFile(const std::string& source, const std::string& destination) {
   if (std::rename(source.c_str(), destination.c_str()) == 0) return 0;
-  if (errno != EXDEV) return errno;
-  const auto content = ReadWholeFile(source);
-  if (!content) return EIO;
-  // What lies at the destination goes, as it does by a rename.
-  if (unlink(destination.c_str()) != 0 && errno != ENOENT) return errno;
-  if (const int error = WriteNewFile(destination, *content, source)) return error;
-  if (unlink(source.c_str()) == 0) return 0;
-  const int error = errno;
-  (void)unlink(destination.c_str());
-  return error;
+  return errno == EXDEV ? CopyAndDelete(source, destination) : errno;
 }
 
 int FlushFolder(const std::string& folder) {

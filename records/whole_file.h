@@ -25,7 +25,8 @@ int WriteNewFile(const std::string& path, std::string_view content, const std::s
 
 // Writes CONTENT over the file at PATH, or makes it, and flushes it. Room is taken before the first
 // byte changes, so that a full disk costs nothing; a program killed in the middle leaves a mixture.
-// Only a regular file is written, never through a link.
+// Only a regular file that can be read is written, never through a link: it is put back as it was
+// when writing fails.
 int OverwriteFile(const std::string& path, std::string_view content);
 
 // Whether ERROR says that a new file is not allowed where an old one may still be written over: no
@@ -33,8 +34,8 @@ int OverwriteFile(const std::string& path, std::string_view content);
 bool OnlyOverwritingMayHelp(int error);
 
 // Moves the file SOURCE to DESTINATION, over a file that may be there: by a rename or, between two
-// file systems, by a copy. After a failure SOURCE is whole where it was, and DESTINATION holds no
-// part of it.
+// file systems, by a copy. After a failure both are as they were. Between two file systems a file
+// at DESTINATION is written over in place, so it has to be readable and not a link.
 int MoveWholeFile(const std::string& source, const std::string& destination);
 
 // Flushes the entries of FOLDER to the disk: what files it holds and how they are called.

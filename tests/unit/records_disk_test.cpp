@@ -149,6 +149,45 @@ TEST_F(OtherDiskTest, WithoutRoomTheTeamStaysAndLeavesNoGhost) {
   EXPECT_FALSE(fs::exists(Destination()));
 }
 
+// Another team of that name gives way to the one that comes, but only to the whole of it.
+TEST_F(OtherDiskTest, ATeamTakesThePlaceOfOneOfItsName) {
+  for (const Lines& other : {MakeRoster(90), Lines{"short"}, Lines(40, MakeRoster(90)[0])}) {
+    world.WriteTeam("Rank F", "Boston Braves", MakeRoster(80));
+    world.WriteTeam("Rank E", "Boston Braves", other);
+    EXPECT_TRUE(Ordvik::MoveFile(TeamFile(), Destination()));
+    EXPECT_EQ(ReadLines(Destination()), MakeRoster(80));
+    EXPECT_FALSE(fs::exists(TeamFile()));
+  }
+}
+
+TEST_F(OtherDiskTest, WithoutRoomTheTeamOfItsNameStaysToo) {
+  for (const Lines& other : {MakeRoster(90), Lines{"short"}, Lines{}}) {
+    world.WriteTeam("Rank E", "Boston Braves", other);
+    for (const rlim_t room : {0, 3, 100, 350}) {
+      const FullDisk full(room);
+      EXPECT_FALSE(Ordvik::MoveFile(TeamFile(), Destination())) << room;
+    }
+    EXPECT_EQ(ReadLines(TeamFile()), MakeRoster(80));
+    EXPECT_EQ(ReadLines(Destination()), other);
+  }
+}
+
+// Where the copy is made and the old file cannot be deleted there would be two.
+TEST_F(OtherDiskTest, ATeamThatCannotBeDeletedIsNotCopied) {
+  if (geteuid() != 0) GTEST_SKIP() << "only the superuser can become another user";
+  for (const char* folder : {"", "/Teams/Rank E/."}) {
+    fs::permissions(world.path() + folder, fs::perms::others_all, fs::perm_options::add);
+  }
+  AsAnotherUser([&] { (void)Ordvik::MoveFile(TeamFile(), Destination()); });
+  EXPECT_EQ(ReadLines(TeamFile()), MakeRoster(80));
+  EXPECT_FALSE(fs::exists(Destination()));
+  world.WriteTeam("Rank E", "Boston Braves", MakeRoster(90));
+  fs::permissions(Destination(), fs::perms::others_all, fs::perm_options::add);
+  AsAnotherUser([&] { (void)Ordvik::MoveFile(TeamFile(), Destination()); });
+  EXPECT_EQ(ReadLines(TeamFile()), MakeRoster(80));
+  EXPECT_EQ(ReadLines(Destination()), MakeRoster(90));
+}
+
 TEST_F(OtherDiskTest, ATeamIsWrittenInPlace) {
   EXPECT_TRUE(Ordvik::MoveFile(TeamFile(), Destination()));
   RecordList list;
