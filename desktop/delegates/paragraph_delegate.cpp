@@ -9,6 +9,8 @@ namespace frostmark {
 namespace {
 
 constexpr qsizetype kMostHeights = 4096;
+constexpr double kSmallLetters = 0.85;
+constexpr double kSmallPadding = 0.2;
 
 QRectF SentenceRect(const QRectF& row, const QStyleOptionViewItem& option, double indent) {
   return row.adjusted(indent, 0, -row::Margin(option) / 2, 0);
@@ -22,12 +24,18 @@ ParagraphDelegate::Sentence ParagraphDelegate::Whole(const QStyleOptionViewItem&
   return sentence;
 }
 
+QFont ParagraphDelegate::FontOf(const Sentence& sentence, const QStyleOptionViewItem& option) {
+  QFont font = option.font;
+  if (sentence.small) font.setPixelSize(qRound(QFontInfo(font).pixelSize() * kSmallLetters));
+  return font;
+}
+
 bool ParagraphDelegate::PaintRow(QPainter& painter, const QStyleOptionViewItem& option,
                                  const QModelIndex& /*index*/) const {
   PaintSign(painter, option);
   const Sentence sentence = Whole(option);
   row::PaintParagraph(painter, SentenceRect(option.rect, option, Indent(option)), sentence.runs,
-                      option.font, sentence.color);
+                      FontOf(sentence, option), sentence.color);
   return true;
 }
 
@@ -46,10 +54,13 @@ QSize ParagraphDelegate::sizeHint(const QStyleOptionViewItem& option,
   QStyleOptionViewItem prepared = option;
   initStyleOption(&prepared, index);
   const QRectF row(0, 0, width, 0);
-  const double sentence = row::ParagraphHeight(
-      SentenceRect(row, prepared, Indent(prepared)).width(), Whole(prepared).runs, prepared.font);
-  const int padding = row::Height(prepared) - prepared.fontMetrics.height();
-  const int height = static_cast<int>(std::ceil(sentence)) + padding;
+  const Sentence sentence = Whole(prepared);
+  const double text_height =
+      row::ParagraphHeight(SentenceRect(row, prepared, Indent(prepared)).width(), sentence.runs,
+                           FontOf(sentence, prepared));
+  const double padding = (row::Height(prepared) - prepared.fontMetrics.height()) *
+                         (sentence.small ? kSmallPadding : 1);
+  const int height = static_cast<int>(std::ceil(text_height + padding));
   heights_.insert(text, height);
   return {0, height};
 }

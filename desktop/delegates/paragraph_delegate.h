@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QFont>
 #include <QHash>
+#include <vector>
 
 #include "desktop/delegates/row_delegate.h"
 #include "desktop/delegates/row_painter.h"
@@ -22,6 +24,7 @@ class ParagraphDelegate : public RowDelegate {
   struct Sentence {
     std::vector<row::Run> runs;
     QColor color;
+    bool small = false;  // in small letters and close to its neighbours
   };
 
   // Takes the text of OPTION apart. Without runs the row is drawn as plain text.
@@ -36,6 +39,7 @@ class ParagraphDelegate : public RowDelegate {
 
  private:
   Sentence Whole(const QStyleOptionViewItem& option) const;
+  static QFont FontOf(const Sentence& sentence, const QStyleOptionViewItem& option);
 
   // The heights of the texts met so far, in the width and font that they were measured for: a
   // play-by-play of a thousand lines is laid out again at every new line.

@@ -112,10 +112,14 @@ double PlayDelegate::Indent(const QStyleOptionViewItem& option) const {
 }
 
 void PlayDelegate::PaintSign(QPainter& painter, const QStyleOptionViewItem& option) const {
+  const auto play = PlayOf(option);
+  if (!play) return;
   const double size = option.fontMetrics.height();
-  QRectF sign(option.rect.left() + row::Margin(option), 0, size, size);
-  sign.moveTop(option.rect.center().y() - size / 2);
-  if (const auto play = PlayOf(option)) PaintPlay(painter, sign, *play);
+  const double shrink = IsPass(*play) ? 0.6 : 1;
+  QRectF sign(0, 0, size * shrink, size * shrink);
+  sign.moveCenter({option.rect.left() + row::Margin(option) + size / 2,
+                   static_cast<double>(option.rect.center().y())});
+  PaintPlay(painter, sign, *play);
 }
 
 PlayDelegate::Sentence PlayDelegate::SentenceOf(const QStyleOptionViewItem& option) const {
@@ -128,7 +132,8 @@ PlayDelegate::Sentence PlayDelegate::SentenceOf(const QStyleOptionViewItem& opti
           selected               ? row::TextColor(option)
           : *play == Play::kGoal ? ColourOf(*play)
           : quiet                ? row::QuietColor(option)
-                                 : row::TextColor(option)};
+                                 : row::TextColor(option),
+          IsPass(*play)};
 }
 
 }  // namespace frostmark

@@ -6,6 +6,11 @@
 #include "desktop/palette.h"
 
 namespace frostmark {
+namespace {
+
+constexpr double kLift = 0.2;  // room around the disc to lift in, in lines of text
+
+}  // namespace
 
 void RatingChip::SetColour(const QColor& colour) {
   colour_ = colour;
@@ -27,14 +32,26 @@ QFont RatingChip::PosterFont() const {
 QSize RatingChip::sizeHint() const {
   const int line = fontMetrics().height();
   const int figures = QFontMetrics(PosterFont()).horizontalAdvance(text());
-  return {std::max(2 * line, figures + line / 2), 2 * line};
+  const int lift = qRound(line * kLift);
+  return {std::max(2 * line, figures + line / 2) + 2 * lift, 2 * line + 2 * lift};
 }
+
+double RatingChip::Radius() const { return fontMetrics().height(); }
 
 void RatingChip::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  const double edge = height() * 0.075;
-  const QRectF disc = QRectF(rect()).adjusted(edge, edge, -edge, -edge);
+  const double lift = fontMetrics().height() * kLift;
+  QRectF disc = QRectF(rect()).adjusted(lift, lift, -lift, -lift);
+  const double edge = disc.height() * 0.075;
+  disc.adjust(edge, edge, -edge, -edge);
+  if (carrier_) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(10, 24, 48, 90));
+    painter.drawRoundedRect(disc.translated(0, lift), disc.height() / 2, disc.height() / 2);
+    disc.adjust(-lift / 2, -lift / 2, lift / 2, lift / 2);
+    disc.translate(0, -lift / 2);
+  }
   QLinearGradient jersey(disc.topLeft(), disc.bottomLeft());
   jersey.setColorAt(0, colour_.lighter(115));
   jersey.setColorAt(1, colour_.darker(130));

@@ -4,7 +4,8 @@
 
 namespace frostmark {
 
-// A player on the rink: the disc with his rating, in the poster face like the goals.
+// A player on the rink: the disc with their rating, in the poster face like the goals. The disc of
+// the player with the puck lifts off the ice.
 class RatingChip : public QLabel {
   Q_OBJECT
 
@@ -12,8 +13,12 @@ class RatingChip : public QLabel {
   explicit RatingChip(QWidget* parent = nullptr) : QLabel(parent) {}
 
   void SetColour(const QColor& colour);
-  // Whether he has the puck.
+  // Whether they have the puck.
   void SetCarrier(bool carrier);
+  bool carrier() const { return carrier_; }
+
+  // How far the disc reaches from the chip's centre, in pixels, when it lies on the ice.
+  double Radius() const;
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }

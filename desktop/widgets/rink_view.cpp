@@ -1,12 +1,16 @@
 #include "desktop/widgets/rink_view.h"
 
+#include <QEasingCurve>
 #include <QEvent>
 #include <QPainter>
+#include <QPainterPath>
 #include <chrono>
 
+#include "desktop/motion.h"
 #include "desktop/palette.h"
 #include "desktop/widgets/rating_chip.h"
 #include "desktop/widgets/rink_ice.h"
+#include "desktop/widgets/rink_marks.h"
 
 namespace frostmark {
 
@@ -19,7 +23,7 @@ struct RinkView::Spot {
 };
 
 // A right side is the right side of a player who looks at the other goal.
-const RinkView::Spot RinkView::kSpots[12] = {
+const RinkView::Spot RinkView::kSpots[kSpotCount] = {
     {"vGoalie", "GO", 1, {20, 42.5}},  {"vRDef", "RD", 1, {44, 63}},
     {"vLDef", "LD", 1, {44, 22}},      {"vRFor", "RF", 1, {84, 68}},
     {"vCenter", "CF", 1, {87, 42.5}},  {"vLFor", "LF", 1, {84, 17}},
@@ -31,21 +35,31 @@ const RinkView::Spot RinkView::kSpots[12] = {
 namespace {
 
 constexpr std::chrono::milliseconds kLampTime{1200};
+constexpr std::chrono::milliseconds kShotTime{450};
+// A little less than the 100 ms of a step, so that the puck is there before it goes on.
+constexpr std::chrono::milliseconds kGlideTime{90};
 constexpr QPointF kCentreSpot(rink::kLength / 2, rink::kWidth / 2);
-constexpr double kLight = 32;  // how far the lamp shines
-constexpr double kPuck = 1.9;  // its radius; a true one could not be seen
+constexpr double kNameWidth = 25;      // between the centres there is no more room
+constexpr double kNameLetters = 0.74;  // of plain text
 
-QPointF GoalOf(int scoring_team) {
-  const double deep = rink::kGoalLine - 2;
-  return {scoring_team == 1 ? rink::kLength - deep : deep, rink::kWidth / 2};
-}
+QColor ColorOf(int team) { return team == 1 ? palette::kBlueDeep : palette::kRedDeep; }
 
 }  // namespace
 
-RinkView::RinkView(QWidget* parent) : QWidget(parent) {
+RinkView::RinkView(QWidget* parent) : QWidget(parent), shown_(kCentreSpot) {
   lamp_.setSingleShot(true);
   lamp_.setInterval(kLampTime);
   connect(&lamp_, &QTimer::timeout, this, &RinkView::PutLampOut);
+  shot_.setSingleShot(true);
+  shot_.setInterval(kShotTime);
+  connect(&shot_, &QTimer::timeout, this, [this] {
+    shot_of_ = 0;
+    update();
+  });
+  glide_.setDuration(static_cast<int>(kGlideTime.count()));
+  glide_.setEasingCurve(QEasingCurve::InOutQuad);
+  connect(&glide_, &QVariantAnimation::valueChanged, this,
+          [this](const QVariant& at) { DropPuck(at.toPointF()); });
 }
 
 const RinkView::Spot* RinkView::SpotOf(int team, const QString& position) {
@@ -55,17 +69,58 @@ const RinkView::Spot* RinkView::SpotOf(int team, const QString& position) {
   return nullptr;
 }
 
+void RinkView::SetName(int team, const QString& position, const QString& name) {
+  const Spot* spot = SpotOf(team, position);
+  if (spot == nullptr) return;
+  if (auto* chip = findChild<RatingChip*>(QLatin1String(spot->label))) chip->setToolTip(name);
+  QString& shown = names_[static_cast<std::size_t>(spot - kSpots)];
+  const QString surname = name.section(' ', -1, -1, QString::SectionSkipEmpty);
+  if (shown == surname) return;
+  shown = surname;
+  ground_ = {};
+  update();
+}
+
 void RinkView::SetPuck(int team, const QString& position) {
   const Spot* spot = SpotOf(team, position);
   if (scored_ != 0) {
     scored_ = 0;
     carrier_ = nullptr;  // it comes from the face-off
+    DropPuck(kCentreSpot);
     update();
   }
   if (spot == carrier_) return;
   before_ = carrier_;
   carrier_ = spot;
   MarkCarrier();
+  SendPuck();
+  update();
+}
+
+// From where it is drawn, so that it never jumps.
+void RinkView::SendPuck() {
+  glide_.stop();
+  if (!isVisible() || !MotionWanted()) return DropPuck(Puck());
+  glide_.setStartValue(shown_);
+  glide_.setEndValue(Puck());
+  glide_.start();
+}
+
+void RinkView::DropPuck(const QPointF& at) {
+  update(PixelsAround(shown_));
+  shown_ = at;
+  update(PixelsAround(shown_));
+}
+
+QRect RinkView::PixelsAround(const QPointF& at) const {
+  const QPointF reach(rink::kPuck * 1.5, rink::kPuck * 1.5);
+  return rink::Feet(size()).mapRect(QRectF(at - reach, at + reach)).toAlignedRect();
+}
+
+void RinkView::ShowShot(int team) {
+  shot_of_ = team;
+  shot_from_ = PuckAt(carrier_);
+  shot_.start();
   update();
 }
 
@@ -80,6 +135,7 @@ void RinkView::FlashGoal(int team) {
   lamp_of_ = team;
   scored_ = team;
   lamp_.start();
+  SendPuck();
   emit LampChanged(team, true);
   update();
 }
@@ -95,6 +151,9 @@ void RinkView::Reset() {
   carrier_ = nullptr;
   before_ = nullptr;
   scored_ = 0;
+  shot_of_ = 0;
+  glide_.stop();
+  DropPuck(kCentreSpot);
   MarkCarrier();
   PutLampOut();
 }
@@ -120,76 +179,76 @@ void RinkView::PlaceChips() {
   for (const Spot& spot : kSpots) {
     auto* chip = findChild<RatingChip*>(QLatin1String(spot.label));
     if (chip == nullptr) continue;
-    chip->SetColour(QColor(spot.team == 1 ? palette::kBlueDeep : palette::kRedDeep));
+    chip->SetColour(ColorOf(spot.team));
     QRect place(QPoint(), chip->sizeHint());
     place.moveCenter(feet.map(spot.at).toPoint());
     chip->setGeometry(place);
   }
+  if (glide_.state() != QAbstractAnimation::Running) shown_ = Puck();
+  ground_ = {};
 }
 
-QPointF RinkView::Puck() const { return scored_ != 0 ? GoalOf(scored_) : PuckAt(carrier_); }
+QRectF RinkView::Ice() const {
+  return rink::Feet(size()).mapRect(QRectF(0, 0, rink::kLength, rink::kWidth));
+}
+
+QPointF RinkView::Puck() const { return scored_ != 0 ? rink::GoalOf(scored_) : PuckAt(carrier_); }
 
 QPointF RinkView::PuckAt(const Spot* spot) const {
   if (spot == nullptr) return kCentreSpot;
-  // On the stick, in front of the chip and a little aside.
+  // On the stick in front of the chip, clear of the name under it.
   const double chip = fontMetrics().height() / rink::Feet(size()).m11();
   const double ahead = spot->team == 1 ? 1 : -1;
-  return spot->at + QPointF(ahead * (chip + kPuck * 0.8), chip * 0.75);
+  return spot->at + QPointF(ahead * (chip + rink::kPuck), chip * 0.15);
 }
 
-void RinkView::PaintPuck(QPainter& painter, const QPointF& at) const {
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(QColor(10, 24, 48, 70));
-  painter.drawEllipse(at + QPointF(0.5, 0.8), kPuck, kPuck * 0.85);
-  painter.setBrush(QColor(0x10, 0x18, 0x26));
-  painter.drawEllipse(at, kPuck, kPuck * 0.85);
-  painter.setPen(QPen(QColor(0x6F, 0x84, 0xA2), 0.3));
-  painter.setBrush(Qt::NoBrush);
-  painter.drawEllipse(at, kPuck * 0.6, kPuck * 0.5);
+// On a light edge, as a name may lie on a line of the ice. PAINTER is set to pixels.
+void RinkView::PaintNames(QPainter& painter) const {
+  const QTransform feet = rink::Feet(size());
+  QFont letters = font();
+  letters.setPixelSize(std::max(7, qRound(fontInfo().pixelSize() * kNameLetters)));
+  letters.setWeight(QFont::DemiBold);
+  const QFontMetricsF metrics(letters);
+  for (int i = 0; i < kSpotCount; ++i) {
+    const QString name = metrics.elidedText(names_[static_cast<std::size_t>(i)], Qt::ElideRight,
+                                            kNameWidth * feet.m11());
+    const QPointF under = feet.map(kSpots[i].at) + QPointF(0, fontMetrics().height() * 1.05);
+    QPainterPath text;
+    text.addText(under + QPointF(-metrics.horizontalAdvance(name) / 2, metrics.ascent()), letters,
+                 name);
+    painter.strokePath(text, QPen(QColor(palette::kIce), metrics.height() * 0.22, Qt::SolidLine,
+                                  Qt::RoundCap, Qt::RoundJoin));
+    painter.fillPath(text, QColor(palette::kNight));
+  }
 }
 
-void RinkView::PaintWay(QPainter& painter, const QPointF& from, const QPointF& to) const {
-  QLinearGradient fade(from, to);
-  fade.setColorAt(0, QColor(12, 28, 54, 0));
-  fade.setColorAt(1, QColor(12, 28, 54, 150));
-  painter.setPen(QPen(QBrush(fade), 1.1, Qt::DashLine, Qt::RoundCap));
-  painter.drawLine(from, to);
-}
-
-void RinkView::PaintLamp(QPainter& painter) const {
-  // Off the goal towards the middle, so that the light is gone where the boards are.
-  const QPointF goal = GoalOf(lamp_of_);
-  const QPointF middle(goal.x() < rink::kLength / 2 ? kLight : rink::kLength - kLight, goal.y());
-  QRadialGradient light(middle, kLight, goal);
-  light.setColorAt(0, QColor(255, 236, 170, 235));
-  light.setColorAt(0.25, QColor(244, 120, 82, 190));
-  light.setColorAt(1, QColor(217, 48, 62, 0));
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(light);
-  painter.drawEllipse(middle, kLight, kLight);
+void RinkView::PaintGround() {
+  const QSize pixels = (QSizeF(size()) * devicePixelRatioF()).toSize();
+  if (ground_.size() == pixels) return;
+  ground_ = QPixmap(pixels);
+  ground_.setDevicePixelRatio(devicePixelRatioF());
+  ground_.fill(Qt::transparent);
+  QPainter painter(&ground_);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.save();
+  painter.setTransform(rink::Feet(size()), true);
+  rink::PaintIce(painter);
+  painter.restore();
+  PaintNames(painter);
 }
 
 void RinkView::paintEvent(QPaintEvent* /*event*/) {
-  const QSize pixels = (QSizeF(size()) * devicePixelRatioF()).toSize();
-  const QTransform feet = rink::Feet(size());
-  if (ice_.size() != pixels) {
-    ice_ = QPixmap(pixels);
-    ice_.setDevicePixelRatio(devicePixelRatioF());
-    ice_.fill(Qt::transparent);
-    QPainter painter(&ice_);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setTransform(feet, true);
-    rink::PaintIce(painter);
-  }
+  PaintGround();
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.drawPixmap(0, 0, ice_);
-  painter.setTransform(feet, true);
-  if (lamp_of_ != 0) PaintLamp(painter);
+  painter.drawPixmap(0, 0, ground_);
+  painter.setTransform(rink::Feet(size()), true);
+  if (lamp_of_ != 0) rink::PaintLamp(painter, lamp_of_);
+  if (shot_of_ != 0) rink::PaintShot(painter, shot_from_, shot_of_, ColorOf(shot_of_));
   if (scored_ == 0 && (before_ != nullptr || carrier_ != nullptr)) {
-    PaintWay(painter, PuckAt(before_), PuckAt(carrier_));
+    rink::PaintWay(painter, PuckAt(before_), PuckAt(carrier_));
   }
-  PaintPuck(painter, Puck());
+  rink::PaintPuck(painter, shown_);
 }
 
 }  // namespace frostmark
