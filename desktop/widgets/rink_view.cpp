@@ -90,11 +90,16 @@ void RinkView::SetPuck(int team, const QString& position) {
     update();
   }
   if (spot == carrier_) return;
+  update(PixelsOfWay());
   before_ = carrier_;
   carrier_ = spot;
   MarkCarrier();
   SendPuck();
-  update();
+  update(PixelsOfWay());
+}
+
+QRect RinkView::PixelsOfWay() const {
+  return PixelsAround(PuckAt(before_)) | PixelsAround(PuckAt(carrier_));
 }
 
 // From where it is drawn, so that it never jumps.

@@ -69,6 +69,7 @@ class RinkView : public QWidget {
   void SendPuck();
   void DropPuck(const QPointF& at);
   QRect PixelsAround(const QPointF& at) const;
+  QRect PixelsOfWay() const;
   void PaintGround();
   void PaintNames(QPainter& painter) const;
   void PutLampOut();
