@@ -1,6 +1,8 @@
+#include <algorithm>
 #include <filesystem>
 #include <system_error>
 
+#include "records/leagues.h"
 #include "records/ordvik.h"
 #include "records/whole_file.h"
 
@@ -26,6 +28,22 @@ bool Ordvik::IsFileName(std::string_view name) {
   constexpr std::string_view kNoPartOfName("/\0", 2);
   return !name.empty() && name != "." && name != ".." &&
          name.find_first_of(kNoPartOfName) == std::string_view::npos;
+}
+
+bool Ordvik::KeepsToItsFolder() const {
+  const auto true_path = [](const std::string& folder) {
+    std::error_code error;
+    const std::string path = fs::canonical(folder, error);
+    return error ? std::string() : path;
+  };
+  const std::string home = true_path(app_path_.empty() ? "/" : app_path_);
+  const auto leads_out = [&](const std::string& folder) {
+    const std::string path = true_path(folder);
+    return !path.empty() && !path.starts_with(home == "/" ? home : home + "/");
+  };
+  return !leads_out(SettingsPath("")) && std::none_of(kRanks.begin(), kRanks.end(), [&](auto rank) {
+    return leads_out(RankFolder(rank));
+  });
 }
 
 std::string Ordvik::RankFolder(std::string_view rank) const {

@@ -15,6 +15,7 @@ void Startup::PressNew() {
   // A league of six is the only sign of a running game: a world without a user's team has five.
   // Where a build or a beginning was cut off there is none, whatever the folder holds.
   constexpr int kTeamsOfRunningGame = 6;
+  if (!program_.ordvik.KeepsToItsFolder()) return;
   (void)FinishCutOffWork(program_.ordvik);
   const bool cut_off = program_.under_way.IsCutOff();
   File1.SetPath(program_.ordvik.RankFolder("Rank F"));

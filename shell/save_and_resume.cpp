@@ -141,6 +141,7 @@ std::optional<SavedGame> FindSavedGame(Program& program) {
 void Startup::PressLoad() {
   Ordvik& ordvik = program_.ordvik;
   Franchise& franchise = program_.franchise;
+  if (!ordvik.KeepsToItsFolder()) return;
   if (!FinishCutOffWork(ordvik) || program_.under_way.IsBuild()) return;
   const auto game = FindSavedGame(program_);
   if (!game) return;

@@ -257,6 +257,32 @@ TEST_F(LoadTest, ATeamThatIsNoEntryOfALeagueIsNotLoadedAndNotWritten) {
   EXPECT_EQ(ReadText(world.path() + "/F2 Wolves"), "outside");
 }
 
+// A world from a stranger may have a link for a folder: the user's own files would be its teams.
+TEST_F(LoadTest, AFolderThatLeadsOutOfTheWorldIsNoPartOfIt) {
+  const WorldFolder elsewhere;
+  const std::string outside = elsewhere.path();
+  for (const char* folder : {"Teams/Rank C", "Teams", "Settings"}) {
+    const std::string inside = world.path() + "/" + folder;
+    std::filesystem::remove_all(outside + "/taken");
+    std::filesystem::rename(inside, outside + "/taken");
+    std::filesystem::create_directory_symlink(outside + "/taken", inside);
+    ExpectNothingHappens();
+    const Lines before = elsewhere.Everything();
+    startup().HighButton4.Click();
+    EXPECT_FALSE(startup().Frame1.Visible());
+    EXPECT_EQ(elsewhere.Everything(), before);
+    std::filesystem::remove(inside);
+    std::filesystem::rename(outside + "/taken", inside);
+  }
+  // How the world itself has been reached does not matter, nor a way within it.
+  std::filesystem::rename(world.path() + "/Teams/Rank C", world.path() + "/third");
+  std::filesystem::create_directory_symlink("../third", world.path() + "/Teams/Rank C");
+  std::filesystem::create_directory_symlink(world.path(), outside + "/way");
+  Session session(outside + "/way");
+  session.program.startup.PressLoad();
+  EXPECT_TRUE(session.program.franchise.Visible());
+}
+
 TEST_F(LoadTest, ReadsTheSettingsOnce) {
   Load();
   // Settings, roster, six tables, news, roster, opponent.
