@@ -41,9 +41,9 @@ bool Ordvik::KeepsToItsFolder() const {
     const std::string path = true_path(folder);
     return !path.empty() && !path.starts_with(home == "/" ? home : home + "/");
   };
-  return !leads_out(SettingsPath("")) && std::none_of(kRanks.begin(), kRanks.end(), [&](auto rank) {
-    return leads_out(RankFolder(rank));
-  });
+  return !leads_out(SettingsPath("")) &&
+         std::none_of(kRanks.begin(), kRanks.end(),
+                      [&](const char* rank) { return leads_out(RankFolder(rank)); });
 }
 
 std::string Ordvik::RankFolder(std::string_view rank) const {
