@@ -1,10 +1,10 @@
 #include <QApplication>
 #include <QFile>
 #include <QIcon>
-#include <QMessageBox>
 #include <QSocketNotifier>
 #include <optional>
 
+#include "desktop/boxes.h"
 #include "desktop/qt_desktop.h"
 #include "desktop/style.h"
 #include "program/program.h"
@@ -18,7 +18,9 @@ constexpr int kWorldIsOpen = 2;
 // The world is open elsewhere: in a window, which comes to the front, or in a console.
 int LeaveItToTheOther(const frostmark::WorldClaim& claim) {
   if (claim.Knock()) return 0;
-  QMessageBox::information(nullptr, QString(), "This world is open in a console.");
+  using namespace frostmark;
+  ShowMessageBox({BoxIcon::kInformation, BoxButtons::kOk, "This world is open in a console."},
+                 nullptr);
   return kWorldIsOpen;
 }
 

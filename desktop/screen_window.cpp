@@ -12,10 +12,12 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 #include <QWindow>
+#include <QtMath>
 #include <algorithm>
 
 #include "desktop/compositing.h"
 #include "desktop/decorations.h"
+#include "desktop/focus_guide.h"
 #include "desktop/guard.h"
 #include "desktop/palette.h"
 #include "desktop/screen_form.h"
@@ -68,6 +70,7 @@ ScreenWindow::ScreenWindow(Screen& screen, Guard& guard, Stage& stage,
   ZoomLayouts(*form_);
   binder_ = std::make_unique<Binder>(screen_, *form_, guard_);
   DecorateScreen(screen_, *form_);
+  focus_guide_ = new FocusGuide(*form_);
   OfferWayOut();
 }
 
@@ -122,7 +125,7 @@ void ScreenWindow::Appear(QWidget* opener) {
   painted_ = false;
   moved_by_user_ = false;
   opener_ = opener;
-  FocusPrimary();
+  focus_guide_->Begin();
   FitShadow();
   const QSize room = QGuiApplication::primaryScreen()->availableSize() - QSize(0, TitleBar());
   const QSize wanted = screen_.IsPopup() ? form_->sizeHint().boundedTo(room) : Stage::Size();
@@ -135,9 +138,11 @@ void ScreenWindow::Appear(QWidget* opener) {
 }
 
 int ScreenWindow::TitleBar() const {
-  // The window manager's own is not known before the window is there.
-  constexpr int kLines = 2;
-  return screen_.border() == Screen::Border::kNone ? 0 : kLines * fontMetrics().height();
+  // The window manager's own is not known before the window is there. Its letters are the user's,
+  // however small ours have become.
+  if (screen_.border() != Screen::Border::kTitleBar) return 0;
+  constexpr double kLines = 2;
+  return qCeil(kLines * fontMetrics().height() / Zoom());
 }
 
 void ScreenWindow::Place() {
@@ -157,30 +162,6 @@ void ScreenWindow::FitShadow() {
   const int across = std::clamp(rest.width() / 2, 0, kShadow);
   const int down = std::clamp(rest.height() / 2, 0, kShadow);
   layout()->setContentsMargins(across, down, across, down);
-}
-
-void ScreenWindow::FocusPrimary() {
-  // The form names what the screen is about, the most wanted first.
-  for (const QString& name : form_->property("primary").toString().split(' ')) {
-    auto* widget = form_->findChild<QWidget*>(name);
-    if (widget == nullptr || !widget->isVisibleTo(form_) || !widget->isEnabled()) continue;
-    widget->setFocus(Qt::OtherFocusReason);
-    return;
-  }
-  if (focusWidget() == nullptr) FocusFirst();
-}
-
-void ScreenWindow::FocusFirst() {
-  // The keyboard begins at the first thing to do, not at a mark or a spot on the edge.
-  for (QWidget* next = form_->nextInFocusChain(); next != form_; next = next->nextInFocusChain()) {
-    const QString role = next->property("role").toString();
-    if (role == "mark" || role == "hotspot") continue;
-    if ((next->focusPolicy() & Qt::TabFocus) != 0 && next->isVisibleTo(form_) &&
-        next->isEnabled()) {
-      next->setFocus(Qt::OtherFocusReason);
-      return;
-    }
-  }
 }
 
 void ScreenWindow::changeEvent(QEvent* event) {

@@ -9,6 +9,7 @@
 
 namespace frostmark {
 
+class FocusGuide;
 class Guard;
 class Screen;
 class ScreenForm;
@@ -51,8 +52,6 @@ class ScreenWindow : public QWidget {
   void Place();
   void FitShadow();
   int TitleBar() const;
-  void FocusPrimary();
-  void FocusFirst();
   void Drag(const QMouseEvent& move);
   void EndDrag();
 
@@ -62,6 +61,7 @@ class ScreenWindow : public QWidget {
   std::function<void()> close_program_;
   ScreenForm* form_;
   std::unique_ptr<Binder> binder_;
+  FocusGuide* focus_guide_;
   QPointer<QWidget> opener_;
   bool has_shadow_ = false;
   bool has_been_minimized_ = false;

@@ -105,8 +105,8 @@ QString StyleSheet() {
 double Zoom() { return zoom_now; }
 
 double FittingZoom() {
-  // Smaller letters would not be read any more.
-  constexpr double kLeast = 0.5;
+  // Hardly read any more, but all of it can still be reached.
+  constexpr double kLeast = 0.3;
   const QSize room = QGuiApplication::primaryScreen()->availableSize();
   const QSize stage = Stage::Size(PlainPoints());
   return std::clamp(std::min(static_cast<double>(room.width()) / stage.width(),

@@ -115,9 +115,13 @@ void FDraft::PressNewSeason() {
   franchise.ClearRoster();
   program_.ordvik.LoadPlayerFile(franchise.tempList, franchise.UserTeamPath());
   franchise.AddAllToRoster(franchise.tempList);
+  // The desk lies in front before the year is saved, and is closed no more easily than the draft
+  // until then.
+  franchise.SetOnClose(OnClose::kTurnsYear);
   Hide();
   franchise.Show();
   franchise.SaveGame();
+  franchise.SetOnClose(OnClose::kEndsProgram);
 }
 
 }  // namespace frostmark

@@ -67,6 +67,8 @@ class Screen {
   std::string Title() const { return *called_.words != '\0' ? called_.words : caption_; }
   Border border() const { return border_; }
   OnClose on_close() const { return on_close_; }
+  // From now on. A popup stays one, and a main screen too.
+  void SetOnClose(OnClose on_close) { on_close_ = on_close; }
   // Whether it lies beside a main screen, and is not one of those that take turns.
   bool IsPopup() const { return on_close_ == OnClose::kHides || on_close_ == OnClose::kNothing; }
 

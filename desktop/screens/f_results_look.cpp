@@ -1,5 +1,4 @@
 #include <QLabel>
-#include <QPushButton>
 #include <array>
 
 #include "desktop/decorations.h"
@@ -70,7 +69,6 @@ void DecorateFResults(FResults& screen, ScreenForm& form) {
     GiveRoom(list, 44, 6);
   }
   SetLook(Part<QLabel>(form, "Champ"), "role", "champion");
-  Part<QPushButton>(form, "Command1").setFocus();
 }
 
 }  // namespace frostmark

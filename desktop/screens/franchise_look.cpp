@@ -11,7 +11,6 @@
 #include "desktop/screen_form.h"
 #include "desktop/screens/own_team.h"
 #include "desktop/screens/spoken_news.h"
-#include "desktop/widgets/focus_keeper.h"
 #include "desktop/widgets/roles.h"
 #include "desktop/widgets/room.h"
 #include "desktop/widgets/standings_heading.h"
@@ -79,11 +78,6 @@ void DecorateFranchise(Franchise& screen, ScreenForm& form) {
   KeepPlace(Part<QLabel>(form, "Label18"));
   KeepPlace(Part<QPushButton>(form, "Command5"));
 
-  auto* keeper = new FocusKeeper(&form);
-  auto& begin = Part<QPushButton>(form, "HighButton1");
-  keeper->Add(begin);
-  keeper->Add(Part<QPushButton>(form, "Command2"));
-  begin.setFocus();
   TellOwnResult(screen, form);
 }
 

@@ -21,8 +21,9 @@ void ShowPlayers(ListView& list) {
   list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
-// Sees to the room of the panel's lists when it is first shown: until then they need none, and the
-// program starts without looking at them.
+// Takes the keyboard to the panel when it opens, where a team is rolled first. Sees to the room of
+// its lists when it is first shown: until then they need none, and the program starts without
+// looking at them.
 class PanelOpening : public QObject {
  public:
   explicit PanelOpening(QWidget& panel) : QObject(&panel), panel_(panel) {
@@ -31,13 +32,17 @@ class PanelOpening : public QObject {
 
   bool eventFilter(QObject* /*watched*/, QEvent* event) override {
     if (event->type() != QEvent::Show) return false;
-    for (auto* list : panel_.findChildren<ListView*>()) GiveRoom(*list, 43, 6);
-    panel_.removeEventFilter(this);
+    if (!opened_) {
+      for (auto* list : panel_.findChildren<ListView*>()) GiveRoom(*list, 43, 6);
+    }
+    opened_ = true;
+    Part<QWidget>(panel_, "HighButton7").setFocus();
     return false;
   }
 
  private:
   QWidget& panel_;
+  bool opened_ = false;
 };
 
 }  // namespace

@@ -15,6 +15,11 @@ int RepeatableDice::Roll(int n) {
 
 QuickDesktop::QuickDesktop() : QtDesktop([this](int code) { exit_code_ = code; }) {}
 
+void QuickDesktop::Yield() {
+  if (at_yield) at_yield();
+  QtDesktop::Yield();
+}
+
 void QuickDesktop::WaitFor(std::chrono::microseconds at_most) {
   now_ += at_most;
   QtDesktop::WaitFor(std::chrono::microseconds::zero());

@@ -3,6 +3,7 @@
 #include <QTemporaryDir>
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -30,8 +31,12 @@ class QuickDesktop : public QtDesktop {
  public:
   QuickDesktop();
 
+  void Yield() override;
   void WaitFor(std::chrono::microseconds at_most) override;
   std::chrono::microseconds SinceMidnight() override { return now_; }
+
+  // Is done at every yield, until it is taken away: a procedure of the game passes there.
+  std::function<void()> at_yield;
 
   // The exit code, or -1 as long as the program has not ended.
   int ExitCode() const { return exit_code_; }

@@ -33,6 +33,10 @@ QRect OnScreen(const QWidget& widget, const QRect& part) {
                (QSizeF(part.size()) * scale).toSize());
 }
 
+std::string NameOf(const QWidget* widget) {
+  return widget == nullptr ? "nothing" : widget->objectName().toStdString();
+}
+
 bool Pressable(const QWidget& widget) {
   return widget.isVisible() && widget.isEnabled() && !widget.window()->isMinimized() &&
          (Box() == nullptr || Box() == widget.window());
@@ -77,6 +81,35 @@ void Sitting::UntilInFront(const Screen& screen) {
              return OnScreen(known, known.rect());
            });
   });
+}
+
+void Sitting::UntilAt(const Screen& screen, const std::string& name) {
+  UntilInFront(screen);
+  std::string last;
+  const auto there = [&] {
+    last = Ask([&] { return NameOf(QApplication::focusWidget()); });
+    return last == name;
+  };
+  const auto until = steady_clock::now() + kPatience;
+  while (!there() && steady_clock::now() < until) std::this_thread::sleep_for(kBetweenLooks);
+  if (last == name) return;
+  ADD_FAILURE() << "the keyboard is at " << last << " of " << screen.Name() << " and not at "
+                << name;
+  throw GaveUp{};
+}
+
+void Sitting::TabTo(const std::string& name) {
+  const auto focus = [this] { return Ask([] { return NameOf(QApplication::focusWidget()); }); };
+  std::string now = focus();
+  const std::string first = now;
+  while (now != name) {
+    x_.Key("Tab");
+    const std::string before = now;
+    Until("Tab to go on from " + before, [&] { return (now = focus()) != before; });
+    if (now != first) continue;
+    ADD_FAILURE() << "Tab never comes to " << name;
+    throw GaveUp{};
+  }
 }
 
 QRect Sitting::Place(const Screen& screen, const char* name) {
@@ -184,7 +217,10 @@ void Sitting::PlayDraft(const std::function<void()>& at_first_choice) {
     }
     ChooseInDraft();
   }
-  Click(draft, "Command1");
+}
+
+void Sitting::StartSeason() {
+  Click(program().f_draft, "Command1");
   AnswerBox("Return");  // the file is saved
   UntilInFront(program().franchise);
 }

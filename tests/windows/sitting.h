@@ -60,6 +60,10 @@ class Sitting {
   XWindow Window(const Screen& screen);
   // Waits until the window of SCREEN is seen and has the keyboard.
   void UntilInFront(const Screen& screen);
+  // Waits until SCREEN is in front and its widget NAME gets what is typed.
+  void UntilAt(const Screen& screen, const std::string& name);
+  // Presses Tab until the widget NAME gets what is typed.
+  void TabTo(const std::string& name);
   // The place on the screen of the widget NAME of SCREEN, in its pixels.
   QRect Place(const Screen& screen, const char* name);
   // Waits until the widget can be pressed, and clicks the middle of it.
@@ -75,9 +79,11 @@ class Sitting {
   void StartFranchise();
   // From the franchise's first week to the results of the season.
   void PlayToResults();
-  // Every turn of the user in the draft, then the new season. AT_FIRST_CHOICE, if given, is done
-  // while the user is first to choose whom to let go.
+  // From the results over every turn of the user to the end of the draft. AT_FIRST_CHOICE, if
+  // given, is done while the user is first to choose whom to let go.
   void PlayDraft(const std::function<void()>& at_first_choice = nullptr);
+  // From the end of the draft to the desk, with the new season saved.
+  void StartSeason();
 
  private:
   friend void Sit(const std::function<void(Sitting&)>& script);

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QWindow>
+#include <QtTest>
 #include <algorithm>
 
 #include "tests/windows/sitting.h"
@@ -8,26 +10,125 @@
 namespace frostmark::test {
 namespace {
 
+// "Min", and back by the task bar.
+void MinimizeAndRestore(Sitting& sitting) {
+  const Franchise& franchise = sitting.program().franchise;
+  const XWindow window = sitting.Window(franchise);
+  sitting.Click(franchise, "Command6");
+  sitting.Until("the franchise minimized", [&] { return sitting.Window(franchise).iconic; });
+  // Nobody brings it back before the program has heard of that too.
+  sitting.UntilGame("the franchise out of sight",
+                    [&] { return !sitting.game().Window(franchise).windowHandle()->isExposed(); });
+  sitting.x().Activate(window.id);
+  sitting.UntilInFront(franchise);
+}
+
 TEST(WindowContract, AScreenThatWasMinimizedComesBackInFront) {
   Sit([](Sitting& sitting) {
     const Franchise& franchise = sitting.program().franchise;
     const Startup& startup = sitting.program().startup;
     sitting.StartFranchise();
-    const XWindow window = sitting.Window(franchise);
-    sitting.Click(franchise, "Command6");
-    sitting.Until("the franchise minimized", [&] { return sitting.Window(franchise).iconic; });
-    // Nobody brings it back before the program has heard of that too.
-    sitting.UntilGame("the franchise out of sight", [&] {
-      return !sitting.game().Window(franchise).windowHandle()->isExposed();
-    });
-    sitting.x().Activate(window.id);
-    sitting.UntilInFront(franchise);
+    MinimizeAndRestore(sitting);
     sitting.Click(franchise, "HighButton2");
     sitting.UntilInFront(startup);
     sitting.Click(startup, "HighButton2");
     sitting.Click(startup, "HighButton5");
     sitting.UntilInFront(franchise);
   });
+}
+
+TEST(WindowContract, TheDeskOfANewSeasonIsSeenThoughItWasMinimizedInTheLast) {
+  Sit([](Sitting& sitting) {
+    Program& program = sitting.program();
+    sitting.StartFranchise();
+    MinimizeAndRestore(sitting);
+    sitting.PlayToResults();
+    sitting.PlayDraft();
+    sitting.Click(program.f_draft, "Command1");
+    // The box that the season is saved lies on the desk, and both are seen.
+    sitting.Until("the box over the desk", [&] {
+      const XWindow desk = sitting.Window(program.franchise);
+      const XWindow top = sitting.x().Windows().back();
+      return desk.mapped && !desk.iconic && top.mapped && top.transient_for == desk.id &&
+             desk.place.contains(top.place.center());
+    });
+    sitting.AnswerBox("Return");
+    sitting.UntilInFront(program.franchise);
+    MinimizeAndRestore(sitting);
+  });
+}
+
+// Closes the desk by the window manager, in the middle of a procedure of the game.
+class CloseInBetween : public QObject {
+ public:
+  explicit CloseInBetween(Sitting& sitting) : sitting_(sitting) {
+    moveToThread(qApp->thread());  // whose windows it watches
+  }
+
+  void Do() {
+    ScreenWindow& desk = sitting_.game().Window(sitting_.program().franchise);
+    desk.installEventFilter(this);
+    const auto id = static_cast<std::uint32_t>(desk.internalWinId());
+    const auto is_there = [&] { return x_.Window(id).mapped; };
+    if (!QTest::qWaitFor(is_there)) return;
+    x_.Close(id);
+    came_ = QTest::qWaitFor([this] { return asked_; });
+    desk.removeEventFilter(this);
+  }
+  bool Came() const { return came_; }
+
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    asked_ |= event->type() == QEvent::Close;
+    return false;
+  }
+
+ private:
+  Sitting& sitting_;
+  XDisplay x_;
+  bool asked_ = false;
+  bool came_ = false;
+};
+
+TEST(WindowContract, TheDeskDoesNotCloseBeforeTheNewSeasonIsSaved) {
+  Sit([](Sitting& sitting) {
+    Program& program = sitting.program();
+    QuickDesktop& desktop = sitting.game().desktop();
+    sitting.StartFranchise();
+    sitting.Ask([&] {
+      program.franchise.Hide();
+      program.f_draft.Show();
+      program.f_draft.Command1.Enable();
+    });
+    CloseInBetween closing(sitting);
+    sitting.Ask([&] {
+      desktop.at_yield = [&] {
+        if (!program.franchise.Visible() || program.f_draft.Visible()) return;
+        desktop.at_yield = nullptr;
+        closing.Do();
+      };
+    });
+    sitting.StartSeason();
+    EXPECT_TRUE(closing.Came());
+    EXPECT_EQ(sitting.Ask([&] { return desktop.ExitCode(); }), -1);
+    sitting.x().Close(sitting.Window(program.franchise).id);
+    sitting.UntilGame("the end", [&] { return desktop.ExitCode() == 0; });
+  });
+}
+
+TEST(WindowContract, CtrlQLeavesTheProgramInTheTurnOfTheYear) {
+  for (const bool draft : {false, true}) {
+    Sit([draft](Sitting& sitting) {
+      Program& program = sitting.program();
+      Screen& screen = draft ? static_cast<Screen&>(program.f_draft) : program.f_results;
+      sitting.Ask([&] {
+        program.startup.Hide();
+        screen.Show();
+      });
+      sitting.UntilInFront(screen);
+      sitting.x().Key("ctrl+q");
+      sitting.UntilGame("the end", [&] { return sitting.game().desktop().ExitCode() == 0; });
+    });
+  }
 }
 
 TEST(WindowContract, CtrlQLeavesTheProgramFromAnyWindow) {
@@ -97,6 +198,7 @@ TEST(WindowContract, AYearIsPlayedOnOneStage) {
       EXPECT_EQ(sitting.x().Windows().back().id, choice.id);
       sitting.x().Activate(choice.id);
     });
+    sitting.StartSeason();
     EXPECT_EQ(sitting.Ask([&] { return sitting.game().desktop().ExitCode(); }), -1);
     ExpectSamePlace(stage, sitting.Window(program.franchise));
   });
