@@ -341,7 +341,10 @@ TEST(Boxes, TheSignIsLevelWithTheTextAndTheBoxIsWideEnough) {
     auto* sign = box.findChild<QLabel*>("qt_msgboxex_icon_label");
     ASSERT_NE(words, nullptr);
     ASSERT_NE(sign, nullptr);
-    EXPECT_FALSE(sign->pixmap(Qt::ReturnByValue).isNull());
+    // The sign that belongs to the icon, in the size of two lines of the text.
+    const QPixmap shown = sign->pixmap(Qt::ReturnByValue);
+    const int size_of_sign = box.fontMetrics().height() * 2;
+    EXPECT_EQ(shown.toImage(), BoxSign(icon, size_of_sign, box.devicePixelRatioF()).toImage());
     EXPECT_GE(box.width(), 24 * QFontInfo(QApplication::font()).pixelSize());
     const auto middle = [&box](const QWidget& widget, double height) {
       return widget.mapTo(&box, QPoint()).y() + height / 2;

@@ -8,6 +8,7 @@
 #include <QTabWidget>
 #include <QtTest>
 
+#include "desktop/boxes.h"
 #include "desktop/widgets/rink_view.h"
 #include "tests/desktop/person.h"
 #include "tests/desktop/window_game.h"
@@ -106,7 +107,14 @@ TEST_F(SingleGame, ABeginWithoutTeamsIsRefusedInABox) {
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     ASSERT_NE(box, nullptr);
     text = box->text();
-    EXPECT_FALSE(box->iconPixmap().isNull());
+    const QPixmap sign = box->iconPixmap();
+    EXPECT_EQ(sign.toImage(), BoxSign(BoxIcon::kStop, qRound(sign.deviceIndependentSize().width()),
+                                      sign.devicePixelRatio())
+                                  .toImage());
+    EXPECT_NE(sign.toImage(),
+              BoxSign(BoxIcon::kInformation, qRound(sign.deviceIndependentSize().width()),
+                      sign.devicePixelRatio())
+                  .toImage());
     box->accept();
   });
   Person::Click(game_.On<QWidget>(choice(), "HighButton1"));

@@ -94,7 +94,10 @@ void Sitting::UntilAt(const Screen& screen, const std::string& name) {
   while (!there() && steady_clock::now() < until) std::this_thread::sleep_for(kBetweenLooks);
   if (last == name) return;
   ADD_FAILURE() << "the keyboard is at " << last << " of " << screen.Name() << " and not at "
-                << name;
+                << name << "; the window would give it to "
+                << Ask([&] { return NameOf(game_.Window(screen).focusWidget()); }) << ", active is "
+                << Ask([] { return NameOf(QApplication::activeWindow()); }) << "\n"
+                << x_.Described();
   throw GaveUp{};
 }
 
