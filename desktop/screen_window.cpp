@@ -107,14 +107,17 @@ void ScreenWindow::Follow(QWidget* opener) {
     showMinimized();
     return;
   }
-  if (!isVisible()) Appear(opener);
+  const bool is_new = !isVisible();
+  if (is_new) Appear(opener);
   if (isMinimized()) {
     showNormal();
   } else {
     show();
   }
   raise();
-  activateWindow();
+  // A new window is given the keyboard anyway. Asked for as well, it would come once more and
+  // later, and be taken from a box that has opened over the window meanwhile.
+  if (!is_new) activateWindow();
 }
 
 void ScreenWindow::Appear(QWidget* opener) {
