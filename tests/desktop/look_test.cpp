@@ -1,13 +1,17 @@
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QFrame>
 #include <QHash>
+#include <QHoverEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
+#include <QProgressBar>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QStringListModel>
 #include <QTabBar>
 #include <QVBoxLayout>
@@ -23,6 +27,8 @@
 #include "desktop/delegates/team_name_delegate.h"
 #include "desktop/list_view.h"
 #include "desktop/palette.h"
+#include "desktop/widgets/arrow_button.h"
+#include "desktop/widgets/leave_mark.h"
 #include "desktop/widgets/position_badge.h"
 #include "desktop/widgets/rating_chip.h"
 #include "tests/desktop/person.h"
@@ -246,6 +252,197 @@ TEST_F(Look, EveryRowIsReadableInEveryState) {
   }
 }
 
+// A text is measured within its frame, which has colours of its own.
+void ExpectReadable(QWidget& widget, const char* state, int border = 3) {
+  Settle();
+  EXPECT_GE(PalestWord(Inner(PictureOf(widget), border), 1000), kForText)
+      << widget.metaObject()->className() << " " << state;
+}
+
+TEST_F(Look, EveryEntryIsReadableInEveryState) {
+  auto& elsewhere = Add(new QPushButton("Elsewhere"));
+  auto& edit = Add(new QLineEdit("Montreal"));
+  auto& combo = Add(new QComboBox);
+  combo.addItem("Rank F");
+  ShowWindow();
+  for (QWidget* widget : {static_cast<QWidget*>(&edit), static_cast<QWidget*>(&combo)}) {
+    elsewhere.setFocus();
+    ExpectReadable(*widget, "at rest");
+    widget->setAttribute(Qt::WA_UnderMouse);
+    widget->update();
+    ExpectReadable(*widget, "hovered");
+    widget->setFocus();
+    ExpectReadable(*widget, "hovered with the focus");
+    widget->setAttribute(Qt::WA_UnderMouse, false);
+    ExpectReadable(*widget, "with the focus");
+    widget->setEnabled(false);
+    ExpectReadable(*widget, "disabled");
+    widget->setEnabled(true);
+  }
+  edit.setFocus();
+  edit.selectAll();
+  ExpectReadable(edit, "selected");
+  // An empty one says what is to be chosen.
+  combo.setPlaceholderText("Select Rank");
+  combo.setCurrentIndex(-1);
+  ExpectReadable(combo, "empty");
+  combo.setEnabled(false);
+  ExpectReadable(combo, "empty and disabled");
+}
+
+TEST_F(Look, TheOpenListOfAComboIsReadable) {
+  auto& combo = Add(new QComboBox);
+  combo.addItems({"Rank F", "Rank E", "Rank D"});
+  ShowWindow();
+  combo.showPopup();
+  Settle();
+  QAbstractItemView& list = *combo.view();
+  for (int lit : {0, 2}) {
+    list.setCurrentIndex(list.model()->index(lit, 0));
+    for (int row = 0; row < 3; ++row) {
+      QTest::mouseMove(list.viewport(), list.visualRect(list.model()->index(lit, 0)).center());
+      Settle();
+      const QRect place = list.visualRect(list.model()->index(row, 0));
+      EXPECT_GE(PalestWord(PictureOf(*list.viewport(), place.adjusted(4, 3, -4, -3)), 1000),
+                kForText)
+          << "row " << row << ", lit " << lit;
+    }
+  }
+  combo.hidePopup();
+}
+
+TEST_F(Look, EveryTabIsReadableInEveryState) {
+  auto& elsewhere = Add(new QPushButton("Elsewhere"));
+  auto& tabs = Add(new QTabBar);
+  for (const char* tab : {"Main", "Alerts", "Roster"}) tabs.addTab(tab);
+  tabs.setTabEnabled(2, false);
+  ShowWindow();
+  const auto expect = [&](const char* state) {
+    for (int tab = 0; tab < tabs.count(); ++tab) {
+      Settle();
+      // Without the line under the one in front.
+      EXPECT_GE(PalestWord(PictureOf(tabs, tabs.tabRect(tab).adjusted(0, 0, 0, -5)), 1000),
+                kForText)
+          << tabs.tabText(tab).toStdString() << " " << state;
+    }
+  };
+  elsewhere.setFocus();
+  expect("at rest");
+  for (int tab = 0; tab < tabs.count(); ++tab) {
+    const QPoint over = tabs.tabRect(tab).center();
+    QHoverEvent hover(QEvent::HoverMove, over, over, QPointF(-1, -1));
+    tabs.setAttribute(Qt::WA_UnderMouse);
+    QApplication::sendEvent(&tabs, &hover);
+    expect("one hovered");
+  }
+  tabs.setFocus();
+  expect("with the focus");
+  tabs.setEnabled(false);
+  expect("disabled");
+}
+
+// The line under the tab in front, in the middle of it.
+QRgb LineUnder(QTabBar& tabs) {
+  const QRect tab = tabs.tabRect(tabs.currentIndex());
+  const QImage line = PictureOf(tabs, QRect(tab.center().x(), tab.bottom() - 1, 1, 1));
+  return line.pixel(1, 1);
+}
+
+TEST_F(Look, TheTabInFrontIsSeen) {
+  auto& elsewhere = Add(new QPushButton("Elsewhere"));
+  auto& tabs = Add(new QTabBar);
+  tabs.addTab("Main");
+  ShowWindow();
+  elsewhere.setFocus();
+  Settle();
+  const QRgb at_rest = LineUnder(tabs);
+  EXPECT_GE(Contrast(at_rest, palette::kPanel), kForSigns);
+  tabs.setFocus();
+  Settle();
+  const QRgb with_focus = LineUnder(tabs);
+  EXPECT_GE(Contrast(with_focus, palette::kPanel), kForSigns);
+  EXPECT_NE(at_rest, with_focus);
+}
+
+TEST_F(Look, TheFrameOfAnEntryWithTheFocusIsSeen) {
+  auto& edit = Add(new QLineEdit("Montreal"));
+  auto& combo = Add(new QComboBox);
+  ShowWindow();
+  for (QWidget* widget : {static_cast<QWidget*>(&edit), static_cast<QWidget*>(&combo)}) {
+    widget->setFocus();
+    Settle();
+    const QImage picture = PictureOf(*widget);
+    const QRgb frame = picture.pixel(picture.width() / 2, kEnlarged);
+    EXPECT_GE(Contrast(frame, palette::kPanel), kForSigns) << widget->metaObject()->className();
+    EXPECT_GE(Contrast(frame, palette::kDeep), kForSigns) << widget->metaObject()->className();
+  }
+}
+
+TEST_F(Look, TheSignsOfSmallControlsAreSeenInEveryState) {
+  auto& elsewhere = Add(new QPushButton("Elsewhere"));
+  auto& leave = Add(new LeaveMark(card_));
+  auto& arrow = Add(new ArrowButton(card_));
+  auto& combo = Add(new QComboBox);
+  combo.addItem(QString());
+  ShowWindow();
+  for (QWidget* widget : {static_cast<QWidget*>(&leave), static_cast<QWidget*>(&arrow)}) {
+    const auto expect = [&](const char* state) {
+      Settle();
+      const QRect middle(widget->width() / 4, widget->height() / 4, widget->width() / 2,
+                         widget->height() / 2);
+      EXPECT_GE(PalestWord(PictureOf(*widget, middle), 1000), kForSigns)
+          << widget->metaObject()->className() << " " << state;
+    };
+    elsewhere.setFocus();
+    expect("at rest");
+    widget->setAttribute(Qt::WA_UnderMouse);
+    widget->update();
+    expect("hovered");
+    static_cast<QAbstractButton*>(widget)->setDown(true);
+    expect("pressed");
+    static_cast<QAbstractButton*>(widget)->setDown(false);
+    widget->setAttribute(Qt::WA_UnderMouse, false);
+    widget->setFocus();
+    expect("with the focus");
+    widget->setEnabled(false);
+    expect("disabled");
+  }
+  const QRect arrow_of_combo(combo.width() - 24, 4, 20, combo.height() - 8);
+  EXPECT_GE(PalestWord(PictureOf(combo, arrow_of_combo), 1000), kForSigns) << "combo";
+}
+
+TEST_F(Look, TheHandleOfAScrollBarIsSeen) {
+  QScrollBar& bar = Add(new QScrollBar(Qt::Horizontal));
+  bar.setRange(0, 100);
+  bar.setPageStep(100);
+  ShowWindow();
+  const auto handle = [&] {
+    Settle();
+    const QImage picture = PictureOf(bar);
+    return picture.pixel(picture.width() / 2, picture.height() / 2);
+  };
+  EXPECT_GE(Contrast(handle(), palette::kDeep), kForSigns) << "on a list";
+  const QRgb at_rest = handle();
+  bar.setAttribute(Qt::WA_UnderMouse);
+  QHoverEvent hover(QEvent::HoverMove, bar.rect().center(), bar.rect().center(), QPointF(-1, -1));
+  QApplication::sendEvent(&bar, &hover);
+  EXPECT_NE(handle(), at_rest) << "hovered";
+  EXPECT_GE(Contrast(handle(), palette::kDeep), kForSigns) << "hovered";
+}
+
+TEST_F(Look, TheStretchOfABarIsSeen) {
+  QProgressBar& bar = Add(new QProgressBar);
+  bar.setTextVisible(false);
+  bar.setFixedWidth(200);
+  bar.setValue(50);
+  ShowWindow();
+  const QImage picture = PictureOf(bar);
+  const int y = picture.height() / 2;
+  EXPECT_GE(
+      Contrast(picture.pixel(picture.width() / 4, y), picture.pixel(picture.width() * 3 / 4, y)),
+      kForSigns);
+}
+
 TEST_F(Look, EveryOtherTextIsReadable) {
   for (const char* role : {"", "title", "heading", "value", "caption", "figure", "note", "team",
                            "versus", "champion"}) {
@@ -257,27 +454,6 @@ TEST_F(Look, EveryOtherTextIsReadable) {
     Settle();
     EXPECT_GE(PalestWord(PictureOf(label), 1000), kForText) << role << " disabled";
     label.hide();
-  }
-  auto& edit = Add(new QLineEdit("Montreal"));
-  auto& combo = Add(new QComboBox);
-  combo.addItem("Rank F");
-  auto& tabs = Add(new QTabBar);
-  tabs.addTab("Main");
-  tabs.addTab("Alerts");
-  ShowWindow();
-  for (QWidget* widget : {static_cast<QWidget*>(&edit), static_cast<QWidget*>(&combo)}) {
-    EXPECT_GE(PalestWord(Inner(PictureOf(*widget), 3), 1000), kForText);
-    widget->setFocus();
-    Settle();
-    EXPECT_GE(PalestWord(Inner(PictureOf(*widget), 3), 1000), kForText);
-    widget->setEnabled(false);
-    Settle();
-    EXPECT_GE(PalestWord(Inner(PictureOf(*widget), 3), 1000), kForText) << "disabled";
-  }
-  for (int tab = 0; tab < 2; ++tab) {
-    const QRect place = tabs.tabRect(tab).adjusted(0, 0, 0, -5);
-    const QImage at_rest = PictureOf(tabs, place);
-    EXPECT_GE(PalestWord(at_rest, 1000), kForText) << tab;
   }
 }
 
