@@ -11,17 +11,12 @@
 #include "desktop/bindings.h"
 #include "desktop/list_view.h"
 #include "desktop/screen_form.h"
+#include "desktop/widget_name.h"
 #include "ui/controls.h"
 #include "ui/screen.h"
 
 namespace frostmark {
 namespace {
-
-// "List1(0)" is List1_0 among the widgets, since those must be names of C++.
-QString WidgetName(const Control& control) {
-  QString name = QString::fromStdString(control.Name());
-  return name.replace('(', '_').remove(')');
-}
 
 template <class Widget>
 Widget* Find(ScreenForm& form, const Control& control) {

@@ -14,6 +14,7 @@
 #include <algorithm>
 
 #include "desktop/guard.h"
+#include "desktop/keys.h"
 #include "desktop/list_model.h"
 #include "desktop/list_view.h"
 #include "desktop/screen_form.h"
@@ -24,11 +25,11 @@ namespace {
 // The game's texts are bytes. Bytes that are no UTF-8 show as replacement characters.
 QString Shown(const std::string& text) { return QString::fromStdString(text); }
 
-// A button's text, in which "&" marks the letter of its Alt key: MNEMONIC, where the caption has
-// it.
-QString ButtonText(const std::string& caption, const QString& mnemonic) {
+// A button's text, in which "&" marks LETTER, that of its Alt key, where the caption has it.
+QString ButtonText(const std::string& caption, QChar letter_of_key) {
   QString text = Shown(caption);
-  const qsizetype letter = mnemonic.isEmpty() ? -1 : text.indexOf(mnemonic);
+  const qsizetype letter =
+      letter_of_key.isNull() ? -1 : text.indexOf(letter_of_key, 0, Qt::CaseInsensitive);
   text.replace('&', "&&");
   if (letter >= 0) text.insert(letter, '&');
   return text;
@@ -55,6 +56,8 @@ class CharactersOfTextBox : public QValidator {
 Binding::Binding(Control& control, QWidget& widget, BindingContext context)
     : control_(control), widget_(widget), context_(context) {
   widget_.setAccessibleName(Words());
+  widget_.setToolTip(TipOf(control_));
+  if (HintOf(control_) != nullptr) widget_.setAccessibleDescription(TipOf(control_));
 }
 
 QString Binding::Words() const { return QString::fromUtf8(control_.called().words); }
@@ -100,10 +103,12 @@ ButtonBinding::ButtonBinding(CaptionedControl& control, const Handler& on_click,
 
 void ButtonBinding::Refresh() {
   Binding::Refresh();
-  button_.setText(ButtonText(captioned_.Caption(), button_.property("mnemonic").toString()));
+  button_.setText(ButtonText(captioned_.Caption(), AltLetter(HintOf(captioned_))));
   // The words for a press stand instead of a mark; a caption of some length is told beside them.
   const QString caption = Shown(captioned_.Caption());
-  if (!Words().isEmpty() && caption.size() > 1) button_.setAccessibleDescription(caption);
+  if (!Words().isEmpty() && caption.size() > 1) {
+    button_.setAccessibleDescription(caption + ". " + TipOf(captioned_));
+  }
 }
 
 ListBinding::ListBinding(ListBox& list, ListView& view, BindingContext context)
@@ -185,6 +190,9 @@ TabBinding::TabBinding(TabStrip& strip, QTabWidget& tabs, BindingContext context
     tabs_.widget(static_cast<int>(i))->setAccessibleName(tab);
   }
   tabs_.tabBar()->setAccessibleName(Words());
+  tabs_.tabBar()->setAccessibleDescription(TipOf(strip));
+  // Whatever lies on a page without a tooltip would show that of the strip.
+  tabs_.setToolTip({});
   tabs_.installEventFilter(this);
   tabs_.tabBar()->installEventFilter(this);
   connect(&tabs_, &QTabWidget::currentChanged, this,

@@ -29,6 +29,7 @@ int LeaveItToTheOther(const frostmark::WorldClaim& claim) {
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName("Frostmark");
+  QApplication::setApplicationVersion(FROSTMARK_VERSION);
   QApplication::setApplicationDisplayName("Frostmark");
   QApplication::setDesktopFileName("io.frostmark.frostmark");
   QIcon icon;

@@ -19,6 +19,8 @@
 #include "desktop/decorations.h"
 #include "desktop/focus_guide.h"
 #include "desktop/guard.h"
+#include "desktop/help_page.h"
+#include "desktop/keys.h"
 #include "desktop/palette.h"
 #include "desktop/screen_form.h"
 #include "desktop/stage.h"
@@ -69,9 +71,11 @@ ScreenWindow::ScreenWindow(Screen& screen, Guard& guard, Stage& stage,
   SetUpForm(screen_, *form_);
   ZoomLayouts(*form_);
   binder_ = std::make_unique<Binder>(screen_, *form_, guard_);
+  InstallKeys(screen_, *form_);
   DecorateScreen(screen_, *form_);
   focus_guide_ = new FocusGuide(*form_);
   OfferWayOut();
+  new QShortcut(QKeySequence(Qt::Key_F1), this, this, &ScreenWindow::Help);
 }
 
 ScreenWindow::~ScreenWindow() = default;
@@ -92,6 +96,14 @@ void ScreenWindow::OfferWayOut() {
   auto* mark = new LeaveMark(form_);
   connect(mark, &QAbstractButton::clicked, this, &ScreenWindow::LeaveProgram);
   new Pin(*mark, Qt::AlignTop | Qt::AlignRight, {0, kInset, kInset, 0});
+}
+
+// Over the window and before everything else on it, which goes on underneath.
+void ScreenWindow::Help() {
+  auto* page = new HelpPage(screen_, *form_);
+  auto* leave = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q), page);
+  connect(leave, &QShortcut::activated, this, &ScreenWindow::LeaveProgram);
+  page->open();
 }
 
 void ScreenWindow::LeaveProgram() {

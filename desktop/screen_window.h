@@ -47,6 +47,7 @@ class ScreenWindow : public QWidget {
  private:
   void MakeFrameless();
   void OfferWayOut();
+  void Help();
   void LeaveProgram();
   void Appear(QWidget* opener);
   void Place();

@@ -1,5 +1,7 @@
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <algorithm>
 #include <array>
 
 #include "desktop/decorations.h"
@@ -55,6 +57,34 @@ void DressRoster(ScreenForm& form) {
   }
 }
 
+// Left and Right move the selected player to the line on that side, as the arrow between the lines
+// does. The selection goes on to the neighbour, so that one player after the other can go.
+class RosterKeys : public QObject {
+ public:
+  RosterKeys(ListView& line, Qt::Key key, QAbstractButton& arrow)
+      : QObject(&line), line_(line), key_(key), arrow_(arrow) {
+    line.installEventFilter(this);
+  }
+
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() != QEvent::KeyPress) return false;
+    const auto* pressed = static_cast<QKeyEvent*>(event);
+    if (pressed->key() != key_ || pressed->modifiers() != Qt::NoModifier) return false;
+    const QModelIndexList selected = line_.selectionModel()->selectedRows();
+    if (selected.isEmpty() || !arrow_.isEnabled()) return true;
+    const int row = selected.front().row();
+    arrow_.click();
+    const int rows = line_.model()->rowCount();
+    if (rows > 0) emit line_.Chosen(std::min(row, rows - 1));
+    return true;
+  }
+
+ private:
+  ListView& line_;
+  Qt::Key key_;
+  QAbstractButton& arrow_;
+};
+
 // Keeps the place of a widget that comes and goes, so that the others do not jump.
 void KeepPlace(QWidget& widget) {
   QSizePolicy policy = widget.sizePolicy();
@@ -72,6 +102,10 @@ void DecorateFranchise(Franchise& screen, ScreenForm& form) {
   GiveRoom(alerts, 80, 8);
   DressStandings(screen, form);
   DressRoster(form);
+  new RosterKeys(Part<ListView>(form, "MainRoster"), Qt::Key_Right,
+                 Part<QAbstractButton>(form, "Command3"));
+  new RosterKeys(Part<ListView>(form, "TrainingRoster"), Qt::Key_Left,
+                 Part<QAbstractButton>(form, "Command4"));
 
   ShowOwn(Part<QLabel>(form, "TeamName"), true);
   SetLook(Part<QLabel>(form, "look_versus"), "role", "versus");
