@@ -75,6 +75,7 @@ class MatchPage : public testing::Test {
       ASSERT_TRUE(match().Timer1.Enabled()) << "no goal in the first period";
       match().Timer1.Tick();
     }
+    match().Timer1.Disable();  // real time is none of this test's business
   }
 
   int Lines(Play play) {
