@@ -425,6 +425,20 @@ TEST_F(GameScreenTest, TheCloseMarkPressedInsideAStepLeavesTheGameAndHarmsNothin
   EXPECT_EQ(game().Line1Stats.ListCount(), 6);
 }
 
+// The walk that puts the lines on the ice goes on to its end, over players who are gone.
+TEST_F(GameScreenTest, TheCloseMarkPressedWhileTheLinesComeOnTheIceLeavesEmptyPlaces) {
+  SetUpMatch();
+  constexpr int kYieldsOfTwoCentres = 12;
+  for (int yield = 0; yield < kYieldsOfTwoCentres + 1; ++yield) desktop().AtYield([] {});
+  desktop().AtYield([this] {
+    ASSERT_EQ(game().LineList.ListCount(), 2);
+    game().Label5.Click();
+  });
+  game().HighButton1.Click();
+  EXPECT_EQ(ItemsOf(game().LineList), Lines(4, ""));
+  EXPECT_EQ(ItemsOf(game().DefList), Lines(4, ""));
+}
+
 TEST_F(GameScreenTest, TheCloseMarkPressedInsideAFaceOffLeavesTheCentreThatWasFound) {
   SetUpMatch();
   for (int yield = 1; yield < 12; ++yield) desktop().AtYield([] {});

@@ -420,6 +420,23 @@ TEST_F(BeginTest, FirstTheFileThenTheScreensAndTheSaveAtTheEnd) {
   EXPECT_EQ(ordvik().ReadSetting("Team"), "Montreal Breeze");
 }
 
+TEST_F(BeginTest, ThePanelAndTheTwoButtonsGoBeforeTheSave) {
+  WatchfulDesktop watchful;
+  Program other(watchful, dice(), world.path());
+  other.team_creator.GenTeam();
+  other.startup.HighButton2.Click();
+  other.startup.Frame1.Show();
+  int boxes = 0;
+  watchful.OnBox = [&] {
+    ++boxes;
+    EXPECT_FALSE(other.startup.Frame1.Visible());
+    EXPECT_FALSE(other.startup.HighButton4.Visible());
+    EXPECT_FALSE(other.startup.HighButton5.Visible());
+  };
+  other.startup.PressBegin();
+  EXPECT_EQ(boxes, 1);
+}
+
 TEST_F(BeginTest, TheNextOpponentIsFoundOnceMoreBeforeTheSave) {
   // In the schedule the league is written over; when it reads "Rank F" again, the schedule is over.
   bool in_schedule = false;
