@@ -5,6 +5,7 @@
 
 #include "program/program.h"
 #include "records/dice.h"
+#include "tests/support/temporary_world.h"
 #include "ui/headless_desktop.h"
 
 namespace frostmark {
@@ -14,11 +15,8 @@ namespace frostmark {
 class WorldForBench {
  public:
   WorldForBench();
-  ~WorldForBench();
-  WorldForBench(const WorldForBench&) = delete;
-  WorldForBench& operator=(const WorldForBench&) = delete;
 
-  const std::string& Folder() const { return folder_; }
+  const std::string& Folder() const { return folder_.path(); }
   HeadlessDesktop& desktop() { return desktop_; }
   Program& program() { return *program_; }
 
@@ -26,7 +24,7 @@ class WorldForBench {
   void PlayOneWeek();
 
  private:
-  std::string folder_;
+  test::TemporaryWorld folder_;
   HeadlessDesktop desktop_;
   ClockDice dice_;
   std::unique_ptr<Program> program_;

@@ -138,7 +138,7 @@ TEST_F(Bindings, AHandlerMayEmptyTheListThatItWasCalledFrom) {
   EXPECT_EQ(view.model()->index(0, 0).data().toString(), "Another");
 }
 
-TEST_F(Bindings, AFullListIsNoBurden) {
+TEST_F(Bindings, AFullListIsNotABurden) {
   FStartGame& screen = program().f_start_game;
   Open(screen);
   const auto start = std::chrono::steady_clock::now();
@@ -150,7 +150,7 @@ TEST_F(Bindings, AFullListIsNoBurden) {
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
 }
 
-TEST_F(Bindings, BytesThatAreNoTextAreShownAndCanBeChosen) {
+TEST_F(Bindings, BytesThatAreNotTextAreShownAndCanBeChosen) {
   FStartGame& screen = program().f_start_game;
   Open(screen);
   screen.File1.AddItem("\xff\xfe bad \x80");

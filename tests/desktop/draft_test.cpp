@@ -168,7 +168,7 @@ TEST_F(DraftInWindows, TheUsersTurnByKeyboardAlone) {
   EXPECT_EQ(franchise().MainList.ListCount() + franchise().TrainList.ListCount(), 11);
 }
 
-TEST_F(DraftInWindows, ADoubleClickOutOfTurnIsNoPickAndTheHistoryFollows) {
+TEST_F(DraftInWindows, ADoubleClickOutOfTurnIsNotAPickAndTheHistoryFollows) {
   {
     Person person(game_.desktop());
     person.When(

@@ -7,11 +7,11 @@
 #include <random>
 
 #include "tests/kill/victim.h"
-#include "tests/unit/game_fixture.h"
+#include "tests/support/game_fixture.h"
 
 // Kills a running franchise at random moments. Whatever it was doing, its world must be whole.
 // FROSTMARK_KILLS is how often, FROSTMARK_SEED the seed of the moments.
-namespace frostmark::testing {
+namespace frostmark::test {
 namespace {
 
 int FromEnvironment(const char* name, int otherwise) {
@@ -141,4 +141,4 @@ TEST_F(KillTest, AtTheYearsTurn) {
 }
 
 }  // namespace
-}  // namespace frostmark::testing
+}  // namespace frostmark::test

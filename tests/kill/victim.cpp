@@ -9,7 +9,7 @@
 #include <stdexcept>
 #include <thread>
 
-namespace frostmark::testing {
+namespace frostmark::test {
 
 Victim::Victim(const std::vector<std::string>& arguments) {
   std::array<int, 2> ends{};
@@ -77,4 +77,4 @@ int Victim::WaitForEnd() {
   return status;
 }
 
-}  // namespace frostmark::testing
+}  // namespace frostmark::test

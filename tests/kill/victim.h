@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace frostmark::testing {
+namespace frostmark::test {
 
 // A run of the program that plays by itself.
 class Victim {
@@ -39,4 +39,4 @@ class Victim {
   std::vector<std::string> said_;
 };
 
-}  // namespace frostmark::testing
+}  // namespace frostmark::test

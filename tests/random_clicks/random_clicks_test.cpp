@@ -7,11 +7,11 @@
 
 #include "records/runtime_error.h"
 #include "tests/random_clicks/random_user.h"
-#include "tests/unit/game_fixture.h"
+#include "tests/support/game_fixture.h"
 
 // FROSTMARK_ROUNDS is how many rounds are played. FROSTMARK_SEED is the seed of the first; each
 // round has a seed of its own, one more than the last, and follows from it alone.
-namespace frostmark::testing {
+namespace frostmark::test {
 namespace {
 
 constexpr int kActsOfRound = 400;
@@ -22,23 +22,20 @@ long FromEnvironment(const char* name, long otherwise) {
 }
 
 // What stands in the folder when a round begins: nothing, a world, or a saved franchise.
-void PrepareWorld(const WorldFolder& world, std::uint32_t seed) {
+void PrepareWorld(const TemporaryWorld& world, std::uint32_t seed) {
   if (seed % 4 == 0) return;
   world.FillWorld();
   if (seed % 4 == 1) return;
   Session session(world.path());
+  TakeOver(session.program, world, "Rank F", "F2 Wolves");
   Franchise& franchise = session.program.franchise;
-  franchise.TeamName.SetCaption("F2 Wolves");
-  franchise.LoadNewTeams();
-  franchise.GenSchedule();
-  for (const std::string& record : MakeRoster(76)) franchise.AddToRoster(record);
   franchise.NextWeek.SetCaption(seed % 4 == 2 ? "Week 9" : "Off Season");
   franchise.SaveGame();
 }
 
 // Plays one round and tells how it ended.
 std::string PlayRound(std::uint32_t seed, int& deepest) {
-  const WorldFolder world;
+  const TemporaryWorld world;
   PrepareWorld(world, seed);
   RandomUser user(seed, kActsOfRound);
   ScriptedDice dice(seed);
@@ -85,4 +82,4 @@ TEST(RandomClicksTest, NothingBreaks) {
 }
 
 }  // namespace
-}  // namespace frostmark::testing
+}  // namespace frostmark::test

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-namespace frostmark::testing {
+namespace frostmark::test {
 namespace {
 
 using std::chrono::milliseconds;
@@ -177,4 +177,4 @@ void RandomUser::Note(const std::string& act) {
   acts_.push_back(std::to_string(depth_) + " " + act);
 }
 
-}  // namespace frostmark::testing
+}  // namespace frostmark::test

@@ -8,7 +8,7 @@
 #include "program/program.h"
 #include "ui/headless_desktop.h"
 
-namespace frostmark::testing {
+namespace frostmark::test {
 
 // Thrown when the user has had enough, from any depth. No std::exception, like the program's end.
 struct RoundOver {};
@@ -58,4 +58,4 @@ class RandomUser : public HeadlessDesktop {
   std::vector<std::string> acts_;
 };
 
-}  // namespace frostmark::testing
+}  // namespace frostmark::test

@@ -8,10 +8,6 @@ constexpr std::size_t kRemembered = 6;
 
 }  // namespace
 
-void RollTrace::Append(const std::vector<TracedRoll>& rolls) {
-  rolls_.insert(rolls_.end(), rolls.begin(), rolls.end());
-}
-
 int RollTrace::Next(int n, const std::string& asked_by) {
   std::string before;
   for (const std::string& asker : askers_) before += "\n    before it: " + asker;

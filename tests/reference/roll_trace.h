@@ -21,7 +21,7 @@ struct Divergence {
 // the roll is to be up to and who wants it, so that two rolls in a wrong order show at once.
 class RollTrace {
  public:
-  void Append(const std::vector<TracedRoll>& rolls);
+  void Append(const TracedRoll& roll) { rolls_.push_back(roll); }
 
   // The next result. Throws Divergence when the game rolled up to another number than N, or not at
   // all.

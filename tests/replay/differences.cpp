@@ -6,7 +6,7 @@
 #include <iterator>
 #include <map>
 
-namespace frostmark::replay {
+namespace frostmark::test {
 
 namespace {
 
@@ -163,4 +163,4 @@ std::string FirstFileDifference(const std::string& app_path,
   return "";
 }
 
-}  // namespace frostmark::replay
+}  // namespace frostmark::test

@@ -5,7 +5,7 @@
 #include "program/program.h"
 #include "tests/reference/reference_game.h"
 
-namespace frostmark::replay {
+namespace frostmark::test {
 
 // The first difference between PROGRAM and REFERENCE in words, or "".
 std::string FirstDifference(Program& program, const reference::ReferenceGame& reference);
@@ -14,4 +14,4 @@ std::string FirstDifference(Program& program, const reference::ReferenceGame& re
 std::string FirstFileDifference(const std::string& app_path,
                                 const reference::ReferenceGame& reference);
 
-}  // namespace frostmark::replay
+}  // namespace frostmark::test

@@ -3,7 +3,7 @@
 #include <memory>
 #include <vector>
 
-namespace frostmark::replay {
+namespace frostmark::test {
 
 void DoNew(Replay& replay) {
   replay.Do(
@@ -135,4 +135,4 @@ void DoTesting(Replay& replay) {
       [](reference::ReferenceGame& rules) { rules.PressTesting(); });
 }
 
-}  // namespace frostmark::replay
+}  // namespace frostmark::test

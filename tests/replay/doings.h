@@ -4,7 +4,7 @@
 
 #include "tests/replay/replay.h"
 
-namespace frostmark::replay {
+namespace frostmark::test {
 
 // What a user does from day to day.
 void DoNew(Replay& replay);
@@ -21,4 +21,4 @@ void DoTesting(Replay& replay);
 // Gives the lead line one man of each position, with the arrows.
 void DoMendLineUp(Replay& replay);
 
-}  // namespace frostmark::replay
+}  // namespace frostmark::test

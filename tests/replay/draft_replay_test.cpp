@@ -10,7 +10,7 @@
 
 // Drafts of the program beside the reference, on rosters of all kinds.
 
-namespace frostmark::replay {
+namespace frostmark::test {
 
 namespace {
 
@@ -119,4 +119,4 @@ INSTANTIATE_TEST_SUITE_P(Seeds, DraftReplay, Seeds(12));
 
 }  // namespace
 
-}  // namespace frostmark::replay
+}  // namespace frostmark::test

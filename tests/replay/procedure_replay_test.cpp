@@ -6,7 +6,7 @@
 
 // Single procedures beside the reference, on rosters of all kinds.
 
-namespace frostmark::replay {
+namespace frostmark::test {
 
 namespace {
 
@@ -18,11 +18,11 @@ class ProcedureReplay : public testing::TestWithParam<std::uint64_t> {
 
   // Gives both sides the same roster in Franchise.Team1.
   void GiveTeam(const reference::Lines& roster) {
-    Fill(replay.program().franchise.Team1, roster);
+    FillList(replay.program().franchise.Team1, roster);
     replay.reference().lists["Franchise.Team1"] = roster;
   }
   void GiveSecondTeam(const reference::Lines& roster) {
-    Fill(replay.program().franchise.Team2, roster);
+    FillList(replay.program().franchise.Team2, roster);
     replay.reference().lists["Franchise.Team2"] = roster;
   }
   void SetCaption(Label& label, const std::string& name, const std::string& text) {
@@ -111,7 +111,7 @@ TEST_P(ProcedureReplay, StandingsOfAnyRecords) {
                           std::to_string(Between(whim, 0, 11)) + "-" +
                           std::to_string(Between(whim, 0, 3)) + ") Team " + std::to_string(team));
     }
-    Fill(replay.program().franchise.StatRankC, standings);
+    FillList(replay.program().franchise.StatRankC, standings);
     replay.reference().lists["Franchise.StatRankC"] = standings;
     DoTogether(
         "SortRankList",
@@ -161,7 +161,7 @@ TEST_P(ProcedureReplay, UnwatchedGamesOfOddLines) {
 }
 
 // A team that wins a face-off without a man for it has the puck and no carrier.
-TEST_P(ProcedureReplay, UnwatchedGamesWithoutMenForTheFaceOff) {
+TEST_P(ProcedureReplay, UnwatchedGamesWithoutPlayersForTheFaceOff) {
   for (int round = 0; round < 8 && !replay.Over(); ++round) {
     GiveTeam(WithoutPositions(ProperRoster(whim), {"CF", "RF"}));
     GiveSecondTeam(round % 2 == 0 ? WithoutPositions(ProperRoster(whim), {"CF"})
@@ -176,7 +176,7 @@ TEST_P(ProcedureReplay, TrimAlertsOfAnyLength) {
     for (int i = 0; i < count; ++i) {
       alerts.push_back(Between(whim, 0, 9) == 0 ? "" : "news " + std::to_string(i));
     }
-    Fill(replay.program().franchise.Alerts, alerts);
+    FillList(replay.program().franchise.Alerts, alerts);
     replay.reference().lists["Franchise.Alerts"] = alerts;
     DoTogether(
         "TrimAlerts of " + std::to_string(count),
@@ -216,4 +216,4 @@ INSTANTIATE_TEST_SUITE_P(Seeds, ProcedureReplay, Seeds(12));
 
 }  // namespace
 
-}  // namespace frostmark::replay
+}  // namespace frostmark::test

@@ -1,29 +1,17 @@
 #include "tests/replay/replay.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
-#include <atomic>
-#include <filesystem>
-#include <fstream>
+#include <span>
+#include <utility>
 
 #include "records/runtime_error.h"
 #include "tests/replay/differences.h"
 #include "world/name_lists.h"
 
-namespace frostmark::replay {
+namespace frostmark::test {
 
 namespace {
-
-std::string FreshFolder() {
-  static std::atomic<int> number = 0;
-  const auto folder = std::filesystem::temp_directory_path() /
-                      ("replay-" + std::to_string(getpid()) + "-" + std::to_string(++number));
-  std::filesystem::remove_all(folder);
-  std::filesystem::create_directories(folder / "Settings");
-  for (const char* rank : kRanks) std::filesystem::create_directories(folder / "Teams" / rank);
-  return folder.string();
-}
 
 reference::Lines LinesOf(std::span<const char* const> names) {
   return {names.begin(), names.end()};
@@ -31,23 +19,14 @@ reference::Lines LinesOf(std::span<const char* const> names) {
 
 }  // namespace
 
-Replay::Replay(std::uint64_t seed)
-    : seed_(seed), app_path_(FreshFolder()), dice_(seed), desktop_(seed) {
-  Restart();
-}
-
-Replay::~Replay() {
-  program_.reset();
-  std::error_code ignored;
-  std::filesystem::remove_all(app_path_, ignored);
-}
+Replay::Replay(std::uint64_t seed) : seed_(seed), dice_(seed), desktop_(seed) { Restart(); }
 
 void Replay::Restart() {
   program_.reset();
-  program_ = std::make_unique<Program>(desktop_, dice_, app_path_);
+  program_ = std::make_unique<Program>(desktop_, dice_, AppPath());
   desktop_.Play(*program_);
   program_->Start();
-  auto fresh = std::make_unique<reference::ReferenceGame>(app_path_, LinesOf(GivenNames()),
+  auto fresh = std::make_unique<reference::ReferenceGame>(AppPath(), LinesOf(GivenNames()),
                                                           LinesOf(FamilyNames()));
   if (reference_ != nullptr) fresh->shelf = reference_->shelf;
   reference_ = std::move(fresh);
@@ -55,14 +34,12 @@ void Replay::Restart() {
 
 void Replay::PutTeam(const std::string& rank, const std::string& team,
                      const reference::Lines& roster) {
-  std::string content;
-  for (const std::string& record : roster) content += record + "\r\n";
-  PutFile(reference_->TeamPath(rank, team), content);
+  PutFile(reference_->TeamPath(rank, team), JoinLines(roster));
 }
 
 void Replay::PutFile(const std::string& path, const std::string& content) {
   reference_->shelf.files[path] = content;
-  std::ofstream(path, std::ios::binary) << content;
+  WriteText(path, content);
 }
 
 void Replay::Do(const std::string& what, InProgram in_program, InReference in_reference) {
@@ -87,7 +64,7 @@ void Replay::Answer(const std::string& answer) {
 }
 
 void Replay::Follow(const std::string& what, const InReference& in_reference) {
-  reference_->rolls.Append(dice_.Take());
+  for (const RollPair& roll : dice_.Take()) reference_->rolls.Append({roll.n, roll.result});
   reference_->boxes.clear();
   for (; !desktop_.own_answers.empty(); desktop_.own_answers.pop_front()) {
     reference_->answers.push_back(desktop_.own_answers.front());
@@ -125,7 +102,7 @@ void Replay::Compare(const std::string& what) {
   }
   const std::string difference = FirstDifference(*program_, *reference_);
   if (!difference.empty()) Fail(what, difference);
-  const std::string file_difference = FirstFileDifference(app_path_, *reference_);
+  const std::string file_difference = FirstFileDifference(AppPath(), *reference_);
   if (!file_difference.empty()) Fail(what, file_difference);
 }
 
@@ -134,4 +111,4 @@ void Replay::Fail(const std::string& what, const std::string& difference) {
   ADD_FAILURE() << "seed " << seed_ << ", after " << what << ":\n" << difference;
 }
 
-}  // namespace frostmark::replay
+}  // namespace frostmark::test

@@ -9,9 +9,10 @@
 #include "program/program.h"
 #include "tests/reference/reference_game.h"
 #include "tests/replay/replay_desktop.h"
-#include "tests/replay/tracing_dice.h"
+#include "tests/support/scripted_dice.h"
+#include "tests/support/temporary_world.h"
 
-namespace frostmark::replay {
+namespace frostmark::test {
 
 // One program in a fresh folder beside the reference. Each thing that the user does is done in the
 // program, then in the reference with the same rolls; then everything that both know must be equal:
@@ -19,7 +20,6 @@ namespace frostmark::replay {
 class Replay {
  public:
   explicit Replay(std::uint64_t seed);
-  ~Replay();
   Replay(const Replay&) = delete;
   Replay& operator=(const Replay&) = delete;
 
@@ -41,8 +41,8 @@ class Replay {
   Program& program() { return *program_; }
   reference::ReferenceGame& reference() { return *reference_; }
   ReplayDesktop& desktop() { return desktop_; }
-  TracingDice& dice() { return dice_; }
-  const std::string& AppPath() const { return app_path_; }
+  ScriptedDice& dice() { return dice_; }
+  const std::string& AppPath() const { return world_.path(); }
   // Whether a comparison has failed, or the program has ended by an error as the rules want it.
   // What is queued is then passed over.
   bool Over() const { return over_; }
@@ -54,8 +54,8 @@ class Replay {
   void Fail(const std::string& what, const std::string& difference);
 
   std::uint64_t seed_;
-  std::string app_path_;
-  TracingDice dice_;
+  TemporaryWorld world_;
+  ScriptedDice dice_;
   ReplayDesktop desktop_;
   std::unique_ptr<Program> program_;
   std::unique_ptr<reference::ReferenceGame> reference_;
@@ -63,4 +63,4 @@ class Replay {
   bool over_ = false;
 };
 
-}  // namespace frostmark::replay
+}  // namespace frostmark::test

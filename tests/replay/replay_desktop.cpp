@@ -5,7 +5,7 @@
 
 #include "program/program.h"
 
-namespace frostmark::replay {
+namespace frostmark::test {
 
 namespace {
 
@@ -97,4 +97,4 @@ std::string ReplayDesktop::AskText(const std::string& prompt) {
 
 reference::Lines ReplayDesktop::TakeBoxes() { return std::exchange(told_, {}); }
 
-}  // namespace frostmark::replay
+}  // namespace frostmark::test

@@ -13,7 +13,7 @@ class ListBox;
 class Program;
 }  // namespace frostmark
 
-namespace frostmark::replay {
+namespace frostmark::test {
 
 // The user of a replay: watches his games to the end, takes his turn in the draft by whim, and for
 // the rest does what the test has queued. A press can stay open for good (a team that has moved
@@ -56,4 +56,4 @@ class ReplayDesktop : public HeadlessDesktop {
   reference::Lines told_;
 };
 
-}  // namespace frostmark::replay
+}  // namespace frostmark::test

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace frostmark::replay {
+namespace frostmark::test {
 
 namespace {
 
@@ -84,15 +84,4 @@ void SpoilOne(Whim& whim, reference::Lines& roster) {
   record = reference::JoinWith(parts, ',');
 }
 
-void Fill(RecordList& list, const reference::Lines& lines) {
-  list.Clear();
-  for (const std::string& line : lines) list.AddItem(line);
-}
-
-reference::Lines LinesOf(const RecordList& list) {
-  reference::Lines lines;
-  for (int i = 0; i < list.ListCount(); ++i) lines.push_back(list.List(i));
-  return lines;
-}
-
-}  // namespace frostmark::replay
+}  // namespace frostmark::test

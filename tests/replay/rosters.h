@@ -3,10 +3,9 @@
 #include <random>
 #include <string>
 
-#include "records/record_list.h"
 #include "tests/reference/text_records.h"
 
-namespace frostmark::replay {
+namespace frostmark::test {
 
 using Whim = std::mt19937_64;
 
@@ -32,8 +31,4 @@ reference::Lines WithoutPositions(reference::Lines roster, const reference::Line
 // Makes the Shooting or the Defense of one player no number.
 void SpoilOne(Whim& whim, reference::Lines& roster);
 
-// Makes LIST hold LINES.
-void Fill(RecordList& list, const reference::Lines& lines);
-reference::Lines LinesOf(const RecordList& list);
-
-}  // namespace frostmark::replay
+}  // namespace frostmark::test

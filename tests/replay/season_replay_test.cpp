@@ -7,7 +7,7 @@
 
 // Whole seasons of the program beside the reference.
 
-namespace frostmark::replay {
+namespace frostmark::test {
 
 namespace {
 
@@ -111,4 +111,4 @@ INSTANTIATE_TEST_SUITE_P(Seeds, SeasonReplay, Seeds(3));
 
 }  // namespace
 
-}  // namespace frostmark::replay
+}  // namespace frostmark::test

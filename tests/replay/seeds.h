@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <string>
 
-namespace frostmark::replay {
+namespace frostmark::test {
 
 // The seeds of a replay: 1 to COUNT. For a long run by hand the environment sets the first seed and
 // how many (FROSTMARK_REPLAY_FIRST_SEED, FROSTMARK_REPLAY_SEEDS).
@@ -18,4 +18,4 @@ inline auto Seeds(std::uint64_t count) {
                                        from + (wanted != nullptr ? std::stoull(wanted) : count));
 }
 
-}  // namespace frostmark::replay
+}  // namespace frostmark::test

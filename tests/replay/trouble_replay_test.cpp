@@ -6,7 +6,7 @@
 
 // What users do against the grain, beside the reference.
 
-namespace frostmark::replay {
+namespace frostmark::test {
 
 namespace {
 
@@ -206,4 +206,4 @@ INSTANTIATE_TEST_SUITE_P(Seeds, TroubleReplay, Seeds(3));
 
 }  // namespace
 
-}  // namespace frostmark::replay
+}  // namespace frostmark::test

@@ -6,7 +6,7 @@
 
 // Watched games of the program beside the reference, tick by tick.
 
-namespace frostmark::replay {
+namespace frostmark::test {
 
 namespace {
 
@@ -115,4 +115,4 @@ INSTANTIATE_TEST_SUITE_P(Seeds, WatchedReplay, Seeds(8));
 
 }  // namespace
 
-}  // namespace frostmark::replay
+}  // namespace frostmark::test

@@ -1,25 +1,13 @@
 #pragma once
 
 #include <cstdint>
-#include <random>
 #include <string>
 
 #include "program/program.h"
+#include "tests/support/seeded_dice.h"
 #include "ui/headless_desktop.h"
 
 namespace frostmark {
-
-// The same rolls in every run and on every machine.
-class SteadyDice : public Dice {
- public:
-  explicit SteadyDice(std::uint64_t seed) : generator_(seed) {}
-  int Roll(int n) override {
-    return n < 1 ? n : static_cast<int>(generator_() % static_cast<std::uint64_t>(n)) + 1;
-  }
-
- private:
-  std::mt19937_64 generator_;
-};
 
 // A user who never tires, on a desktop whose clock runs as fast as he does. Each season the best
 // man of a position leads and the other trains; in the draft he lets his weakest man go and takes
@@ -49,7 +37,7 @@ class Coach : public HeadlessDesktop {
   void SetLines();
   void TakeTurnInDraft();
 
-  SteadyDice dice_;
+  test::SeededDice dice_;
   Program program_;
 };
 

@@ -1,12 +1,9 @@
-#include <unistd.h>
-
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
 #include <iostream>
 #include <string_view>
 
-#include "records/leagues.h"
+#include "tests/support/temporary_world.h"
 #include "tools/measure_years/coach.h"
 #include "tools/measure_years/fingerprint.h"
 #include "tools/measure_years/yearbook.h"
@@ -14,31 +11,8 @@
 namespace frostmark {
 namespace {
 
-namespace fs = std::filesystem;
-
-// A program's folder with its empty leagues, for the time of the run.
-class WorldFolder {
- public:
-  WorldFolder() {
-    path_ = (fs::temp_directory_path() / "frostmark-years-XXXXXX").string();
-    if (mkdtemp(path_.data()) == nullptr) throw std::runtime_error("no temporary folder");
-    for (const char* rank : kRanks) fs::create_directories(path_ + "/Teams/" + rank);
-    fs::create_directories(path_ + "/Settings");
-  }
-  WorldFolder(const WorldFolder&) = delete;
-  WorldFolder& operator=(const WorldFolder&) = delete;
-  ~WorldFolder() {
-    std::error_code ignored;
-    fs::remove_all(path_, ignored);
-  }
-  const std::string& path() const { return path_; }
-
- private:
-  std::string path_;
-};
-
 void Run(int years, int seed) {
-  const WorldFolder world;
+  const test::TemporaryWorld world;
   Coach coach(static_cast<std::uint64_t>(seed), world.path());
   Yearbook yearbook;
   coach.BeginFranchise();
@@ -59,7 +33,7 @@ void Run(int years, int seed) {
 // One line a year, so that a change of a rule, or of a byte of a file, shows the year in which it
 // first tells.
 void PrintFingerprints(int years, int seed) {
-  const WorldFolder world;
+  const test::TemporaryWorld world;
   Coach coach(static_cast<std::uint64_t>(seed), world.path());
   coach.BeginFranchise();
   std::cout << "0 " << FingerprintOf(world.path()) << '\n';
