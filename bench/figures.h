@@ -5,7 +5,7 @@ namespace frostmark {
 // The benchmarks whose arguments are known only at run time.
 void RegisterWeekBenchmarks();
 
-// Prints how often a league's band makes the build roll a team anew.
+// Prints how often a league's band makes the build roll a team again.
 void PrintTriesPerLeague();
 
 // Plays a hundred seasons of ten weeks and prints whether time and memory stay flat.

@@ -23,7 +23,7 @@ namespace {
 class Bindings : public testing::Test {
  protected:
   Bindings() {
-    // The names that these tests put into lists are no files, and a load of a missing file waits.
+    // The names that these tests put into lists are not files, and a load of a missing file waits.
     program().f_start_game.File1.OnClick = nullptr;
   }
 

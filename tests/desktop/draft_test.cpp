@@ -58,7 +58,7 @@ class DraftInWindows : public testing::Test {
     }
     return open;
   }
-  // The user has to choose whom to let go, and has the window for it before him.
+  // The user has to choose whom to let go, and has the window for it in front.
   bool ChoosesWhomToLetGo() {
     return draft().AwaitingPick && select().Visible() && select().List1.ListCount() == 11 &&
            QApplication::activeModalWidget() == nullptr &&
@@ -121,7 +121,7 @@ TEST_F(DraftInWindows, TheUsersTurnByMouse) {
   }
   ASSERT_TRUE(franchise().Visible());
   EXPECT_EQ(franchise().NextWeek.Caption(), "Week 1");
-  // A new man from the pool is on the lead line; one whom another team let go keeps his line.
+  // A replacement from the pool is on the lead line; one whom another team let go keeps their line.
   bool has_come = false;
   for (const ListBox* line : {&franchise().MainRoster, &franchise().TrainingRoster}) {
     for (int i = 0; i < line->ListCount(); ++i) {

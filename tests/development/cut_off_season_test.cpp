@@ -3,7 +3,7 @@
 #include "records/lines/standings_line.h"
 #include "tests/support/game_fixture.h"
 
-// A program that ends in the middle of a season's end, or of the save behind it, and what the next
+// A program that ends in the middle of a season's end, or of the save after it, and what the next
 // season's end makes of the folders and tables that it finds.
 namespace frostmark::test {
 namespace {
@@ -77,7 +77,7 @@ TEST_F(CutOffSeasonTest, TablesOfTwoSeasonsLeaveNoLeagueOfFive) {
     return world.SettingsPath(std::string("StatRank") + rank[5] + ".fmk");
   };
   for (const Step& step : Steps()) Take(step);
-  // The save behind the draft was cut off after some of the tables.
+  // The save after the draft was cut off after some of the tables.
   for (const char* rank : kRanks) {
     Lines fresh;
     for (const std::string& team : world.FileNames(rank))

@@ -90,7 +90,7 @@ TEST_F(TrainingTest, AtTwentyEightAndTwentyNineNothingEverChanges) {
     for (int skill = 1; skill <= 5; ++skill) EXPECT_EQ(Trained(record, {65, skill}), record);
     const std::string goalie = MakeRecord({.position = "GO", .age = age});
     for (const int skill : {1, 2}) EXPECT_EQ(Trained(goalie, {20, skill}), goalie);
-    // Nor is it rated anew: nothing is written back.
+    // Nor is it rated again: nothing is written back.
     EXPECT_EQ(Trained("Jim,CF,11,80,80,80,80,28,Y", {1, 5}), "Jim,CF,11,80,80,80,80,28,Y");
   }
 }
@@ -113,8 +113,8 @@ TEST_F(TrainingTest, AnAgeIsReadLeniently) {
 
 TEST_F(TrainingTest, ASkaterOfTheLeadLineIsNotRolledFor) {
   for (const char* training : {"N", "", "y", "YY"}) {
-    TestPlayer man = Forward(20, training);
-    EXPECT_EQ(Trained(MakeRecord(man), {}), MakeRecord(man)) << training;
+    TestPlayer player = Forward(20, training);
+    EXPECT_EQ(Trained(MakeRecord(player), {}), MakeRecord(player)) << training;
   }
 }
 
@@ -154,7 +154,7 @@ TEST_F(TrainingTest, InWeekTenEverybodyGrowsOlderAfterTheirTraining) {
 
 TEST_F(TrainingTest, InWeekTenAGoalieTrainsByTheirOldAgeToo) {
   franchise().NextWeek.SetCaption("Week 10");
-  // Of 24 he still gains up to 4, of 27 up to 2 and of 29 nothing.
+  // At 24 they still gain up to 4, at 27 up to 2 and at 29 nothing.
   EXPECT_EQ(Trained(MakeRecord({.name = "Gus", .position = "GO", .age = 24}), {20, 1, 4}),
             "Gus,GO,82,84,80,80,80,25,N");
   EXPECT_EQ(AskedFor(), (Asked{100, 2, 4}));

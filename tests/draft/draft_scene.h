@@ -8,8 +8,8 @@
 
 namespace frostmark::test {
 
-// A world of one team a league, "A Team" in "Rank A" to "F Team" in "Rank F", and a pool filled by
-// hand. Drafts are run wait by wait: a computer's turn has three waits of a second.
+// A world of one team per league, "A Team" in "Rank A" to "F Team" in "Rank F", and a pool filled
+// by hand. Drafts are run wait by wait: a computer's turn has three waits of a second.
 class DraftScene : public GameFixture {
  protected:
   struct Stopped {};
@@ -28,7 +28,7 @@ class DraftScene : public GameFixture {
   FDraft& draft() { return program().f_draft; }
   FSelectDraft& choice() { return program().f_select_draft; }
 
-  // COUNT prospects a position, of the skill BEST, BEST - 1 and so on.
+  // COUNT prospects per position, of the skill BEST, BEST - 1 and so on.
   void FillPool(int count, int best) {
     for (std::size_t p = 0; p < FDraft::kPositions.size(); ++p) {
       const char* const position = FDraft::kPositions[p];
@@ -80,7 +80,7 @@ class DraftScene : public GameFixture {
       desktop().PassTime(std::chrono::seconds(1));
     });
   }
-  // Runs the draft up to the wait behind the WAITS that are queued or pass.
+  // Runs the draft up to the wait after the WAITS that are queued or pass.
   void RunWaits(int waits) {
     for (int i = 0; i < waits; ++i) SecondPasses();
     Stop();

@@ -87,7 +87,7 @@ TEST_F(NewSeasonTest, AReplacementForATrainingPlayerMakesASeventhLeader) {
   EXPECT_EQ(franchise().MainRoster.List(6), "RF - Rookie (80/20)");
 }
 
-// The save behind it writes the two lines, and so the man is lost to the file as well.
+// The save after it writes the two lines, and so the player is lost to the file as well.
 TEST_F(NewSeasonTest, ARecordOnNeitherLineIsLost) {
   Lines roster = MakeRoster(74);
   roster[8].back() = 'X';

@@ -117,7 +117,7 @@ TEST_F(PicksTest, LettingAPlayerGoOpensTheirPositionAlone) {
     EXPECT_EQ(OpenLists(), Lines{"List5(0)"});
     EXPECT_EQ(draft().ReleasedPlayer, roster[4]);
     EXPECT_EQ(Events(), Lines{"A Team lost (CF) Old 4. Overall: 86"});
-    EXPECT_EQ(Pool("CF").size(), 5U);  // he is not in it yet
+    EXPECT_EQ(Pool("CF").size(), 5U);  // they are not in it yet
     roster.erase(roster.begin() + 4);
     EXPECT_EQ(ItemsOf(draft().tempList), roster);
     EXPECT_EQ(choice().List1.ListCount(), 11);  // they stay as they are
@@ -189,7 +189,7 @@ TEST_F(PicksTest, APickEndsTheTurn) {
   });
   EXPECT_EQ(Events(), (Lines{"A Team lost (LD) Old 7. Overall: 83",
                              "A Team has added LD Rookie 3 to the team. Overall: 67"}));
-  // The man let go is back in the pool, with his "Y"; the new one comes as "N".
+  // The player let go is back in the pool, with the "Y"; the new one comes as "N".
   EXPECT_EQ(Pool("LD")[0], roster[7]);
   EXPECT_EQ(Pool("LD").size(), 5U);
   ExpectPoolInStep();
@@ -262,7 +262,7 @@ TEST_F(PicksTest, TheUsersRetirementsHaveTheSameChances) {
 }
 
 TEST_F(PicksTest, OutOfTurnADoubleClickDoesNothing) {
-  franchise().TeamName.SetCaption("a team");  // not his
+  franchise().TeamName.SetCaption("a team");  // not the user's
   Roster(RosterOfAges(Ages(11, 30)));
   SecondPasses();
   SecondPasses([this] {

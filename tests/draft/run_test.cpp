@@ -201,7 +201,7 @@ TEST_F(CpuDraftTest, ARetirementKeepsTheOrderOfTheFile) {
   expected.erase(expected.begin() + 1);
   expected.push_back(With("Y", Pool("CF")[0]));
   EXPECT_EQ(FirstTurn(roster, {1}), expected);
-  // He is gone for good: nothing goes back to the pool.
+  // They are gone permanently: nothing goes back to the pool.
   EXPECT_EQ(Pool("CF").size(), 4U);
   EXPECT_EQ(draft().ReleasedPlayer, "");
   EXPECT_EQ(HockeyNaming::GetField(retired, "Name"), "Old 9");
@@ -229,7 +229,7 @@ TEST_F(CpuDraftTest, OfTheThreeWeakestTheFirstGrownUpGoes) {
     const Lines roster = RosterOfAges(ages);
     EXPECT_EQ(LeaverOf(roster, FirstTurn(roster)), c.leaver);
   }
-  // A man of 33 at index 7 who stays this year is safe too.
+  // A player of 33 at index 7 who stays this year is safe too.
   Ages ages(11, 20);
   ages[7] = 33;
   FillPool(5, 70);
@@ -257,12 +257,12 @@ TEST_F(CpuDraftTest, TheReplacementTakesOverTheLineOfTheLeaver) {
 }
 
 TEST_F(CpuDraftTest, ThePlayerLetGoEntersThePoolAfterThePickAsTheyAre) {
-  // He is better than all of the pool, yet his own team can't take him back.
+  // They are better than all of the pool, yet their own team can't take them back.
   const Lines roster = RosterOfAges(Ages(11, 25));
   const Lines file = FirstTurn(roster);
   EXPECT_EQ(HockeyNaming::GetField(file.back(), "Name"), "LF Rookie 0");
   EXPECT_EQ(Pool("LF").size(), 5U);
-  EXPECT_EQ(Pool("LF")[0], roster[10]);  // his Training "Y" and all
+  EXPECT_EQ(Pool("LF")[0], roster[10]);  // Training "Y" and all
   ExpectPoolInStep();
   EXPECT_EQ(Events(), (Lines{"A Team lost (LF) Old 10. Overall: 80",
                              "A Team has added LF Rookie 0 to the team. Overall: 70"}));
@@ -272,7 +272,7 @@ TEST_F(CpuDraftTest, ThePlayerLetGoIsBackBeforeTheFileIsWritten) {
   world.WriteTeam("Rank A", "A Team", RosterOfAges(Ages(11, 25)));
   SecondPasses();
   SecondPasses([this] {
-    // Ten men are counted, then the pool of his position is shown anew, line by line.
+    // Ten players are counted, then the pool of the position is shown again, line by line.
     for (int yield = 0; yield < 10; ++yield) desktop().AtYield([] {});
     for (int line = 1; line <= 5; ++line) {
       desktop().AtYield([this, line] {
@@ -300,7 +300,7 @@ TEST_F(CpuDraftTest, APositionShortElsewhereIsMendedOnceAndInFixedOrder) {
   roster.erase(roster.begin() + 7);  // an LD
   roster.erase(roster.begin() + 2);  // the other LD
   roster.erase(roster.begin());      // the goalie
-  // Eight are left: RD RF CF LF RD RF CF LF. The weakest, index 7, goes, whoever he is.
+  // Eight are left: RD RF CF LF RD RF CF LF. The weakest, index 7, goes, whoever it is.
   const Lines file = FirstTurn(roster);
   EXPECT_EQ(Events(), (Lines{"A Team lost (LF) Old 10. Overall: 80",
                              "A Team has added GO Rookie 0 to the team. Overall: 70",
@@ -344,7 +344,7 @@ TEST_F(CpuDraftTest, EveryWalkOfATurnYields) {
   constexpr int kCount = 10;
   constexpr int kSave = 11;
   constexpr int kPool = 5;
-  // The third wait is in front of the yield behind the turn.
+  // The third wait is before the yield after the turn.
   EXPECT_EQ(yields_of(RosterOfAges(Ages(11, 25)), {}), kLoad + 11 + 1 + kCount + kPool + kSave);
   EXPECT_EQ(yields_of(RosterOfAges(Ages(11, 20)), {}), kLoad + 11 + 4 + kCount + kPool + kSave);
   Ages ages(11, 20);

@@ -46,7 +46,7 @@ class YearTest : public GameFixture {
     }
     FAIL() << "no list is open";
   }
-  // Sends all but the first man of each position to training, and fetches one where none is.
+  // Sends all but the first player of each position to training, and fetches one where none is.
   void SetLines() {
     for (const char* position : {"GO", "RD", "LD", "RF", "CF", "LF"}) {
       const auto at = [&](const RecordList& list, int skip) {

@@ -1,4 +1,4 @@
-// Takes up the franchise in a folder and plays it for ever, to be killed in the middle.
+// Resumes the franchise in a folder and plays it for ever, to be killed in the middle.
 //
 //   frostmark_endless_franchise FOLDER weeks|years [YEARS]
 //
@@ -24,8 +24,8 @@ void Say(std::string line) {
   if (write(STDOUT_FILENO, line.data(), line.size()) < 0) std::abort();
 }
 
-// A user who always goes on. A press of his may stay open for good beneath what comes next, so that
-// he acts wherever the program waits for him.
+// A user who always goes on. A press may stay open permanently beneath what comes next, so that
+// they act wherever the program waits for them.
 class EndlessUser : public HeadlessDesktop {
  public:
   void Play(Program& program) { program_ = &program; }
@@ -79,7 +79,7 @@ class EndlessUser : public HeadlessDesktop {
     Say("saved " + week);
   }
 
-  // A veteran from the pool may come as a training player and leave his position without a leader.
+  // A veteran from the pool may come as a training player and leave the position without a leader.
   void MendLineUp() {
     Franchise& franchise = program_->franchise;
     const auto stands_on = [](const RecordList& line, std::string_view position) {
@@ -115,7 +115,7 @@ void PlayOn(const std::string& folder, const std::string& mode, int years) {
   user.EndAfter(years);
   program.Start();
   program.startup.HighButton5.Click();
-  if (!program.franchise.Visible()) throw std::logic_error("there is nothing to take up");
+  if (!program.franchise.Visible()) throw std::logic_error("there is nothing to resume");
   Say("ready");
   while (true) {
     if (mode == "weeks") {

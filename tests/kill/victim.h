@@ -17,7 +17,7 @@ class Victim {
   Victim& operator=(const Victim&) = delete;
   ~Victim();
 
-  // Waits until it has taken up its franchise. False when it ended before.
+  // Waits until it has resumed its franchise. False when it ended before.
   bool BecomesReady();
 
   // Kills it after DELAY. False when it ended by itself before.

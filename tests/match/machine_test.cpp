@@ -19,7 +19,7 @@ class MatchMachineTest : public MatchMachine<Machine> {
     this->dice().Give({team, 1, 1});
     this->Play(rolls);
   }
-  // What was asked for behind the face-off and the one pass of ShotOfTeam.
+  // What was asked for after the face-off and the one pass of ShotOfTeam.
   Asked AskedInShot() {
     const Asked asked = this->dice().Asked();
     EXPECT_GE(asked.size(), 3U);
@@ -348,11 +348,11 @@ TYPED_TEST(MatchMachineTest, EveryWalkYieldsForEachRecord) {
   constexpr int kToShot = kFaceOff + 3 * kWalk + kStep;
   // A shot sets the lists once more. A miss: lists twice, defenders.
   EXPECT_EQ(yields({1, 1, 1, 1, 100}), kToShot + 3 * kWalk + kStep + 2 * kWalk);
-  // A steal: that and lists; the outlet asks behind its lists, twice too, and passers.
+  // A steal: that and lists; the outlet asks after its lists, twice too, and passers.
   EXPECT_EQ(yields({1, 1, 1, 1, 1, 1}), kToShot + 4 * kWalk + kStep + 3 * kWalk);
   EXPECT_EQ(yields({1, 1, 1, 1, 1, 1, 1, 1}),
             kToShot + 4 * kWalk + kStep + 4 * kWalk + kStep + kWalk);
-  // A goal: lists twice, defenders, goalies; the face-off asks behind lists and centres.
+  // A goal: lists twice, defenders, goalies; the face-off asks after lists and centres.
   EXPECT_EQ(yields({1, 1, 1, 1, 1, 110, 1, 1, 105}), kToShot + 4 * kWalk + kStep + 3 * kWalk);
 }
 

@@ -40,7 +40,7 @@ template <typename Machine>
 class MatchMachine : public GameFixture {
  protected:
   static constexpr bool kWatched = std::is_same_v<Machine, Game>;
-  static constexpr int kStepYields = kWatched ? 0 : 1;  // the yield behind each step
+  static constexpr int kStepYields = kWatched ? 0 : 1;  // the yield after each step
 
   MatchMachine() { LineUp(LeadLine(1), LeadLine(2)); }
 
@@ -76,7 +76,7 @@ class MatchMachine : public GameFixture {
     }
   }
 
-  // Plays from a face-off up to the first roll behind ROLLS, and stops there: nobody rolls a 0.
+  // Plays from a face-off up to the first roll after ROLLS, and stops there: nobody rolls a 0.
   void Play(std::initializer_list<int> rolls) {
     dice().Forget();
     dice().Give(rolls);

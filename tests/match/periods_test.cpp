@@ -404,7 +404,7 @@ TEST_F(GameScreenTest, TheCloseMarkPressedInsideAStepLeavesTheGameAndHarmsNothin
       const int played = game().Period1.Value();
       desktop().PassTime(std::chrono::seconds(5));
       if (!left) {  // the step was shorter than that: it happened in the next one
-        ADD_FAILURE() << "no step came to its yield " << yield;
+        ADD_FAILURE() << "no step reached its yield " << yield;
         continue;
       }
       EXPECT_EQ(RunningTimers(), Lines{});
@@ -417,7 +417,7 @@ TEST_F(GameScreenTest, TheCloseMarkPressedInsideAStepLeavesTheGameAndHarmsNothin
       startup().Hide();
     }
   }
-  // What the rest of such a step has left behind is gone with the next set-up.
+  // What the rest of such a step has left is gone with the next set-up.
   SetUpMatch();
   EXPECT_EQ(game().Label3.Caption(), "0");
   EXPECT_EQ(game().Label4.Caption(), "0");

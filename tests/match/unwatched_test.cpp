@@ -67,7 +67,7 @@ TEST_F(UnwatchedMatchTest, AGameIsOneFaceOffAndSixHundredSteps) {
   LineUp(line1, line2);
   const auto before = desktop().Yields();
   machine().SimulateGame();
-  // A pass, then 599 shots of a man who can't get one away: a side and a shot each.
+  // A pass, then 599 shots of a player who can't get one away: a side and a shot each.
   EXPECT_EQ(dice().Rolls().size(), 3U + 599U * 2U);
   EXPECT_EQ(desktop().Yields() - before, 18 + (18 + 1) + 599 * (18 + 1));
   EXPECT_EQ(machine().PassesLeft, 0);

@@ -65,7 +65,7 @@ TEST_F(WatchedMatchTest, AShotByNobodyEndsTheProgram) {
   game().PuckPosition = "LF";
   dice().Give({2, 1, /*pass to "CF"*/ 1, /*shot*/ 1, 100});
   EXPECT_THROW(PlayOn(), RuntimeError);
-  EXPECT_EQ(dice().LeftOver(), 0U);  // the shot is rolled before his Shooting is read
+  EXPECT_EQ(dice().LeftOver(), 0U);  // the shot is rolled before their Shooting is read
 }
 
 TEST_F(WatchedMatchTest, APassIsReported) {

@@ -49,12 +49,12 @@ void RandomUser::ActOn() {
 void RandomUser::Yield() {
   CountYield();
   if (--yields_left_ <= 0) throw RoundOver();
-  ActIfHeLikes(one_yield_in_);
+  ActIfItSuits(one_yield_in_);
 }
 
 void RandomUser::WaitFor(Time at_most) {
-  ActIfHeLikes(2);
-  // At the greatest depth nobody acts, and some waits are for good.
+  ActIfItSuits(2);
+  // At the greatest depth nobody acts, and some waits never end.
   yields_left_ -= 100;
   if (yields_left_ <= 0) throw RoundOver();
   if (at_most == Time::max() && !Timers().NextDue()) return;
@@ -79,7 +79,7 @@ std::string RandomUser::LastActs() const {
   return text;
 }
 
-void RandomUser::ActIfHeLikes(int one_in) {
+void RandomUser::ActIfItSuits(int one_in) {
   if (depth_ < kDeepest && OneIn(one_in)) Act();
 }
 
@@ -128,7 +128,7 @@ void RandomUser::ActOnScreen(Screen& screen) {
 }
 
 void RandomUser::ActOnControl(Control& control) {
-  // He has not come to leave at once.
+  // They have not come to leave at once.
   if (&control == &program_->startup.HighButton3 && !OneIn(200)) return;
   Note(control.FullName());
   switch (control.Kind()) {

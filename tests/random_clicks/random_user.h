@@ -14,15 +14,15 @@ namespace frostmark::test {
 struct RoundOver {};
 
 // A user who clicks, selects, types and answers at random, also while a procedure yields or waits.
-// What he does follows from the seed alone.
+// What they do follows from the seed alone.
 class RandomUser : public HeadlessDesktop {
  public:
-  // ACTS: how many things he does before he has had enough.
+  // ACTS: how many things they do before they have had enough.
   RandomUser(std::uint32_t seed, int acts);
 
   void Use(Program& program) { program_ = &program; }
 
-  // Acts until he has had enough. Does not return.
+  // Acts until they have had enough. Does not return.
   [[noreturn]] void ActOn();
 
   void Yield() override;
@@ -31,16 +31,16 @@ class RandomUser : public HeadlessDesktop {
   std::string AskText(const std::string& prompt) override;
 
   int Deepest() const { return deepest_; }
-  // The last things done, newest last, each behind the depth of nesting: "3 Franchise.Command2".
+  // The last things done, newest last, each after the depth of nesting: "3 Franchise.Command2".
   std::string LastActs() const;
 
  private:
-  // How deep his acts may nest: each stands on the stack of the one before.
+  // How deep acts may nest: each stands on the stack of the one before.
   static constexpr int kDeepest = 40;
 
   int Up(int n) { return static_cast<int>(random_() % static_cast<std::uint32_t>(n)); }
   bool OneIn(int n) { return Up(n) == 0; }
-  void ActIfHeLikes(int one_in);
+  void ActIfItSuits(int one_in);
   void Act();
   void ActOnScreen(Screen& screen);
   void ActOnControl(Control& control);

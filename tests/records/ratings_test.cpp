@@ -247,7 +247,7 @@ TEST_F(TrainingFlagsTest, OverallIsRecomputedForThosePaired) {
 
 TEST_F(TrainingFlagsTest, YieldsInTheInnerWalk) {
   Flagged(MakeRoster(80));
-  EXPECT_EQ(desktop().Yields(), 10 * 10);  // ten who are no goalie, each against ten
+  EXPECT_EQ(desktop().Yields(), 10 * 10);  // ten who are not goalies, each against ten
 }
 
 }  // namespace

@@ -6,7 +6,7 @@ namespace frostmark::reference {
 
 namespace {
 
-// The pool lists in their order, and how many men of the position a roster wants.
+// The pool lists in their order, and how many players of the position a roster wants.
 struct PoolList {
   const char* position;
   const char* list;

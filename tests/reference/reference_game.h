@@ -18,7 +18,7 @@ namespace frostmark::reference {
 // A file that is not there is read without end: what the procedure had still to do is never done.
 struct EndlessLoad {};
 
-// One double click of the user in the draft: the line, and his answer to the question behind it.
+// One double click of the user in the draft: the line, and the answer to the question after it.
 struct DraftChoice {
   int index;
   bool sure;
@@ -52,7 +52,7 @@ class ReferenceGame {
   Lines boxes;
   // What the user answers: "yes", "no", or the text for an input box.
   std::deque<std::string> answers;
-  // The user's draft turns: whom he lets go (only when nobody retired), whom he picks.
+  // The user's draft turns: whom they let go (only when nobody retired), whom they pick.
   std::deque<DraftChoice> releases;
   std::deque<DraftChoice> picks;
   // How many presses never came back because of a file that is not there.
@@ -97,7 +97,7 @@ class ReferenceGame {
   void TickOfPeriod(int period);
   void PressCloseOfGame();
   void Abandon();
-  // What the user does while a franchise game waits for him: he plays it to its end.
+  // What the user does while a franchise game waits for them: they play it to its end.
   std::function<void(ReferenceGame&)> watch = [](ReferenceGame& rules) { rules.WatchToTheEnd(); };
   void WatchToTheEnd();
   bool franchise_match = false;

@@ -123,10 +123,10 @@ std::string CountResult(const std::string& line, const std::string& kind) {
   for (const char c : ItemOf(parts, 0)) {
     if (c != '(') wins_text += c;
   }
-  const std::string behind = ItemOf(parts, 2);
+  const std::string after = ItemOf(parts, 2);
   int wins = StrictNumber(wins_text);
   int losses = StrictNumber(ItemOf(parts, 1));
-  int ties = StrictNumber(behind.substr(0, behind.find(')')));
+  int ties = StrictNumber(after.substr(0, after.find(')')));
   if (kind == "Win") {
     wins = Short(wins + 1);
   } else if (kind == "Lose") {

@@ -46,7 +46,7 @@ std::string RosterLine(const std::string& record);  // CF - James Smith (85/23)
 std::string PanelLine(const std::string& record);   // CF - James Smith 85/23
 std::string PoolLine(const std::string& record);    // James Smith 85/23
 
-// What stands behind ") " in a standings line.
+// What stands after ") " in a standings line.
 std::string TeamBehindRecord(const std::string& team_line);
 // One more result in a standings line.
 std::string CountResult(const std::string& line, const std::string& kind);

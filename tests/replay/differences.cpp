@@ -24,7 +24,7 @@ std::string Both(const std::string& what, const std::string& in_program,
          Quoted(in_reference);
 }
 
-// A roster whose load never ends goes on filling behind the press that waits for it.
+// A roster whose load never ends goes on filling below the press that waits for it.
 bool IsEndlessTail(const std::string& name, const ListBox& list, int from) {
   if (name != "Franchise.tempList" && name != "Franchise.Team1" && name != "Franchise.Team2") {
     return false;

@@ -98,7 +98,7 @@ int LastAt(const ListBox& list, const std::string& position) {
   return last;
 }
 
-// Moves the last surplus man of each position down and fetches one where there is none.
+// Moves the last surplus player of each position down and fetches one where there is none.
 std::vector<Move> Mend(Franchise& desk) {
   std::vector<Move> moves;
   for (const char* position : FDraft::kPositions) {

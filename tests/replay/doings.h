@@ -18,7 +18,7 @@ void DoDraft(Replay& replay);
 void DoNewSeason(Replay& replay);
 // The developer's shortcut to the off-season.
 void DoTesting(Replay& replay);
-// Gives the lead line one man of each position, with the arrows.
+// Gives the lead line one player of each position, with the arrows.
 void DoMendLineUp(Replay& replay);
 
 }  // namespace frostmark::test

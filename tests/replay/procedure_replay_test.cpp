@@ -160,7 +160,7 @@ TEST_P(ProcedureReplay, UnwatchedGamesOfOddLines) {
   }
 }
 
-// A team that wins a face-off without a man for it has the puck and no carrier.
+// A team that wins a face-off without a player for it has the puck and no carrier.
 TEST_P(ProcedureReplay, UnwatchedGamesWithoutPlayersForTheFaceOff) {
   for (int round = 0; round < 8 && !replay.Over(); ++round) {
     GiveTeam(WithoutPositions(ProperRoster(whim), {"CF", "RF"}));

@@ -26,7 +26,7 @@ class Replay {
   using InProgram = std::function<void(Program&)>;
   using InReference = std::function<void(reference::ReferenceGame&)>;
 
-  // Queues a doing of the user, called WHAT in messages, and the comparison behind it.
+  // Queues a doing of the user, called WHAT in messages, and the comparison after it.
   void Do(const std::string& what, InProgram in_program, InReference in_reference);
   // Queues an answer to a box, for both.
   void Answer(const std::string& answer);
@@ -35,7 +35,7 @@ class Replay {
   // Puts a file, or a team's file, into the folder and before the reference.
   void PutFile(const std::string& path, const std::string& content);
   void PutTeam(const std::string& rank, const std::string& team, const reference::Lines& roster);
-  // Ends the program and starts it anew on the same files, with the same reference files.
+  // Ends the program and starts it again on the same files, with the same reference files.
   void Restart();
 
   Program& program() { return *program_; }

@@ -15,9 +15,9 @@ class Program;
 
 namespace frostmark::test {
 
-// The user of a replay: watches his games to the end, takes his turn in the draft by whim, and for
-// the rest does what the test has queued. A press can stay open for good (a team that has moved
-// leagues is looked for where it was), so that what he does next must be done inside its wait.
+// The user of a replay: watches games to the end, takes the turn in the draft by whim, and for
+// the rest does what the test has queued. A press can stay open permanently (a team that has moved
+// leagues is looked for where it was), so that what they do next must be done inside its wait.
 class ReplayDesktop : public HeadlessDesktop {
  public:
   explicit ReplayDesktop(std::uint64_t seed) : whim_(seed) {}
@@ -38,7 +38,7 @@ class ReplayDesktop : public HeadlessDesktop {
   // While it is set, the user does this instead of watching a franchise game.
   Action instead_of_watching;
 
-  // What the user answered of his own accord since the test last emptied it.
+  // What the user answered unasked since the test last emptied it.
   std::deque<std::string> own_answers;
   // What the user chose in the draft since the test last emptied them.
   std::deque<reference::DraftChoice> releases;

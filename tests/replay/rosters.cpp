@@ -61,7 +61,7 @@ reference::Lines OddRoster(Whim& whim, int fewest, int most) {
     const std::string position = reference::ItemOf(kRoster, Between(whim, 0, 10));
     roster.push_back(AnyPlayer(whim, position, Between(whim, 0, 1) == 0 ? "N" : "Y"));
   }
-  // A man of extremes.
+  // A player of extremes.
   if (Between(whim, 0, 3) == 0 && !roster.empty()) {
     std::string& record = roster[static_cast<std::size_t>(Between(whim, 0, 99)) % roster.size()];
     record = AnyPlayer(whim, reference::GetField(record, "Position"), "N", -20, 120);

@@ -51,8 +51,8 @@ TEST_P(SeasonReplay, AWatchedWeekBetweenSimulatedOnes) {
   replay.Run();
 }
 
-// A place left by a training player is taken by a lead player. The user mends his lines or says
-// that he wants them so.
+// A place left by a training player is taken by a lead player. The user mends the lines or says
+// that they are wanted so.
 void QueueYears(Replay& replay, int years, bool mends) {
   for (int year = 0; year < years; ++year) {
     if (mends) DoMendLineUp(replay);

@@ -195,7 +195,7 @@ TEST_F(ScheduleTest, TheTableOfTheLeagueChangesNoFixture) {
 }
 
 TEST_F(ScheduleTest, AShortLeagueLeavesTheUserWithoutAnOpponent) {
-  // Position 3 is nobody, be he first or second of the pair.
+  // Position 3 is nobody, be it first or second of the pair.
   for (const Lines& league :
        {Lines{"F0 Wolves", "F1 Wolves"}, Lines{"", "F1 Wolves", "F2 Wolves", "F0 Wolves"}}) {
     FillList(franchise().RankF, league);

@@ -184,7 +184,7 @@ TEST_F(SimRunTest, BetweenTwoPressesARunYields) {
 }
 
 TEST_F(SimRunTest, APressBetweenTwoPressesIsPlayedTooAndItsWeekCounts) {
-  // The last that a press does is to show the opponent: the yield behind it is the run's own.
+  // The last that a press does is to show the opponent: the yield after it is the run's own.
   franchise().OppOverall.SetCaption("not yet");
   When([this] { return franchise().OppOverall.Caption() != "not yet"; },
        [this] {
@@ -225,7 +225,7 @@ TEST_F(SimRunTest, CancelEndsTheRunAfterTheWeekBeingPlayed) {
 }
 
 TEST_F(SimRunTest, ATargetBeyondTheScheduleGoesThroughTheOffSeason) {
-  desktop().AtWait([] { throw ProgramEnded(); });  // his next opponent may have moved
+  desktop().AtWait([] { throw ProgramEnded(); });  // the next opponent may have moved
   try {
     Sim("20");
   } catch (const ProgramEnded&) {

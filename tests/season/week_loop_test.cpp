@@ -231,7 +231,7 @@ TEST_F(WeekLoopTest, TheRosterIsReadInTwiceAndTheSecondTimeStays) {
   dice().ThenAlways(100);  // nobody trains, so that the file keeps its order
   franchise().MainRoster.Clear();
   franchise().MainRoster.AddItem("an old line");
-  // Behind the games: the first pass adds to what is there, with dead buttons.
+  // After the games: the first pass adds to what is there, with dead buttons.
   int first_pass = 0;
   int second_pass = 0;
   When([this] { return franchise().MainList.ListCount() == 12; },

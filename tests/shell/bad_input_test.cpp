@@ -130,7 +130,7 @@ TEST_F(BadSaveTest, ARosterWithTextForNumbersIsShownAsItStands) {
   world.WriteTeam("Rank F", "F2 Wolves", roster);
   startup().PressLoad();
   EXPECT_EQ(franchise().MainRoster.List(0), "GO - Adam Player (good/old)");
-  EXPECT_EQ(franchise().Label15.Caption(), "64");  // he counts as nothing in the rating
+  EXPECT_EQ(franchise().Label15.Caption(), "64");  // they count as nothing in the rating
 }
 
 }  // namespace

@@ -58,7 +58,7 @@ Answer Coach::ShowBox(const MessageBox& box) {
   return box.icon == BoxIcon::kQuestion ? Answer::kYes : Answer::kNo;
 }
 
-// A week behind the last: the run goes on through the off-season.
+// A week after the last: the run goes on through the off-season.
 std::string Coach::AskText(const std::string&) { return "11"; }
 
 void Coach::SetLines() {

@@ -9,9 +9,9 @@
 
 namespace frostmark {
 
-// A user who never tires, on a desktop whose clock runs as fast as he does. Each season the best
-// man of a position leads and the other trains; in the draft he lets his weakest man go and takes
-// the best of the pool.
+// A user who never tires, on a desktop whose clock runs as fast as they do. Each season the best
+// player of a position leads and the other trains; in the draft they let the weakest player go and
+// take the best of the pool.
 class Coach : public HeadlessDesktop {
  public:
   Coach(std::uint64_t seed, const std::string& app_path)
@@ -30,7 +30,7 @@ class Coach : public HeadlessDesktop {
   std::string AskText(const std::string& prompt) override;
 
  private:
-  // Leaves a press that waits for good for the file of an opponent who has moved. All that the
+  // Leaves a press that waits permanently for the file of an opponent who has moved. All that the
   // press had to do is done by then.
   struct PressLeftOpen {};
 

@@ -22,15 +22,16 @@ void Run(int years, int seed) {
     yearbook.NoteSeason(coach.program());
     yearbook.NoteRosters(coach.program());
   }
-  std::cout << "# What " << years << " years come to\n\n"
-            << "Made by `tools/measure-years` with the dice of seed " << seed
-            << ", so that a change of a rule shows here. The user's team\n"
-               "begins in \"Rank F\"; each season the best man of a position leads and the other "
-               "trains, and in the\ndraft the weakest man goes and the best of the pool comes.\n\n";
+  std::cout
+      << "# What " << years << " years result in\n\n"
+      << "Made by `tools/measure-years` with the dice of seed " << seed
+      << ", so that a change of a rule shows here. The user's team\n"
+         "begins in \"Rank F\"; each season the best player of a position leads and the other "
+         "trains, and in the\ndraft the weakest goes and the best of the pool comes.\n\n";
   yearbook.Print(std::cout);
 }
 
-// One line a year, so that a change of a rule, or of a byte of a file, shows the year in which it
+// One line per year, so that a change of a rule, or of a byte of a file, shows the year in which it
 // first tells.
 void PrintFingerprints(int years, int seed) {
   const test::TemporaryWorld world;

@@ -11,7 +11,7 @@
 
 namespace frostmark {
 
-// What the years come to: it looks at the world after each, and tells it as a page of tables.
+// What the years result in: it looks at the world after each, and tells it as a page of tables.
 class Yearbook {
  public:
   // Looks at the world as it stands at the beginning of a season.
@@ -34,7 +34,7 @@ class Yearbook {
     int games = 0;
     int ties = 0;
     std::string champion;
-    std::string users_rank;  // in which he played
+    std::string users_rank;  // in which they played
   };
 
   static std::size_t BandOf(double age);

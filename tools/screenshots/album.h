@@ -26,7 +26,7 @@ class FixedDice : public Dice {
 // time that the game waits for has passed at once.
 class WillingDesktop : public QtDesktop {
  public:
-  // What somebody does while the game waits, for the clock or for him.
+  // What somebody does while the game waits, for the clock or for them.
   std::function<void()> while_waiting;
 
   void Wait() override;
@@ -51,7 +51,7 @@ class Album {
   // Saves the window of SCREEN as OUT/NAME.png.
   void Take(const Screen& screen, const QString& name);
 
-  // Runs TICK's timer by hand until it is disabled, or TIMES ticks.
+  // Lets TIMER tick until it is disabled, at most TIMES times.
   static void Run(Timer& timer, int times);
 
  private:
