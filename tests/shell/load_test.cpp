@@ -259,7 +259,7 @@ TEST_F(LoadTest, ATeamThatIsNotAnEntryOfALeagueIsNeitherLoadedNorWritten) {
 
 // A world from a stranger may have a link for a folder: the user's own files would be its teams.
 TEST_F(LoadTest, AFolderThatLeadsOutOfTheWorldIsNoPartOfIt) {
-  const WorldFolder elsewhere;
+  const TemporaryWorld elsewhere;
   const std::string outside = elsewhere.path();
   for (const char* folder : {"Teams/Rank C", "Teams", "Settings"}) {
     const std::string inside = world.path() + "/" + folder;
