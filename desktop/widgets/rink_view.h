@@ -79,7 +79,7 @@ class RinkView : public QWidget {
   const Spot* carrier_ = nullptr;
   const Spot* before_ = nullptr;
   QPointF shown_;
-  QVariantAnimation glide_;
+  QVariantAnimation glide_{this};
   QPointF shot_from_;
   int shot_of_ = 0;
   QTimer shot_;
