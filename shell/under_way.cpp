@@ -1,5 +1,6 @@
 #include "shell/under_way.h"
 
+#include <string>
 #include <string_view>
 
 #include "development/league_moves.h"
@@ -10,7 +11,19 @@ namespace {
 
 constexpr std::string_view kMark = "unfinished.new";
 constexpr std::string_view kBuild = "build\r\n";
-constexpr std::string_view kBeginning = "begin\r\n";
+constexpr std::string_view kBeginning = "begin\r\n";  // and the settings before it
+
+std::string Settings(Ordvik& ordvik) {
+  return ordvik.files().Read(ordvik.SettingsPath("settings.fmk")).value_or("");
+}
+
+// Whether a beginning was cut off before its save. The settings are then those of the game before,
+// and so are the tables, whose teams are gone; a team of the same name is another one.
+bool IsUnsavedBeginning(Ordvik& ordvik) {
+  const auto mark = ordvik.files().Read(ordvik.SettingsPath(kMark));
+  return mark && mark->starts_with(kBeginning) &&
+         mark->substr(kBeginning.size()) == Settings(ordvik);
+}
 
 }  // namespace
 
@@ -52,11 +65,15 @@ void UnderWay::Saved() {
 bool UnderWay::IsSet() const { return Ordvik::FileExists(ordvik_.SettingsPath(kMark)); }
 
 bool UnderWay::IsBuild() const {
-  return IsSet() && ordvik_.files().Read(ordvik_.SettingsPath(kMark)) != kBeginning;
+  if (!IsSet()) return false;
+  const auto mark = ordvik_.files().Read(ordvik_.SettingsPath(kMark));
+  return !mark || !mark->starts_with(kBeginning);
 }
 
 void UnderWay::Mark(std::string_view work) {
-  (void)ordvik_.files().WriteForGood(ordvik_.SettingsPath(kMark), work);
+  std::string mark(work);
+  if (work == kBeginning) mark += Settings(ordvik_);
+  (void)ordvik_.files().WriteForGood(ordvik_.SettingsPath(kMark), mark);
 }
 
 void UnderWay::Clear() {
@@ -70,7 +87,8 @@ void UnderWay::Clear() {
 
 bool FinishCutOffWork(Ordvik& ordvik) {
   const bool moved = FinishLeagueMoves(ordvik);
-  return ordvik.files().FinishSaves() && moved;
+  const bool saved = ordvik.files().FinishSaves();
+  return saved && moved && !IsUnsavedBeginning(ordvik);
 }
 
 }  // namespace frostmark

@@ -639,6 +639,39 @@ TEST_F(CutOffNewTest, ABeginningWithinABeginningLeavesTheMarkToTheOuterOne) {
   EXPECT_FALSE(IsMarked());
 }
 
+// The game before had a team of this name too: its week and tables are no part of the new world.
+TEST_F(CutOffNewTest, ABeginningThatWasCutOffIsNotTheGameBefore) {
+  New();
+  Begin();
+  franchise().NextWeek.SetCaption("Week 7");
+  franchise().SaveGame();
+  desktop().QueueAnswer("yes");
+  New();
+  for (int i = 0; i < 40; ++i) desktop().AtYield([] {});
+  desktop().AtYield([] { throw CutOff(); });
+  EXPECT_THROW(Begin(), CutOff);
+  ASSERT_TRUE(std::filesystem::exists(world.TeamPath("Rank F", "Montreal Breeze")));
+  Restart();
+  startup().PressLoad();
+  EXPECT_FALSE(franchise().Visible());
+  EXPECT_EQ(franchise().TeamName.Caption(), "");
+  EXPECT_EQ(franchise().NextWeek.Caption(), "Week 1");  // as the screen starts
+}
+
+TEST_F(CutOffNewTest, ABeginningThatWasCutOffAfterItsSaveIsTakenUp) {
+  New();
+  std::string mark;
+  for (int i = 0; i < 40; ++i) desktop().AtYield([] {});
+  desktop().AtYield([&] { mark = ReadText(world.SettingsPath("unfinished.new")); });
+  Begin();
+  ASSERT_FALSE(mark.empty());
+  WriteText(world.SettingsPath("unfinished.new"), mark);
+  Restart();
+  startup().PressLoad();
+  EXPECT_TRUE(franchise().Visible());
+  EXPECT_EQ(franchise().TeamName.Caption(), "Montreal Breeze");
+}
+
 // It is saved before the box says so.
 TEST_F(CutOffNewTest, ABeginningIsWholeWhenItsBoxIsShown) {
   New();
