@@ -6,7 +6,7 @@
 #include <QPainterPath>
 #include <cmath>
 
-#include "desktop/palette.h"
+#include "desktop/painting/palette.h"
 
 namespace frostmark {
 

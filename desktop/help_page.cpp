@@ -11,7 +11,7 @@
 #include <algorithm>
 
 #include "desktop/keys.h"
-#include "desktop/palette.h"
+#include "desktop/painting/palette.h"
 #include "ui/controls.h"
 #include "ui/screen.h"
 

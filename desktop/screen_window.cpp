@@ -21,7 +21,7 @@
 #include "desktop/guard.h"
 #include "desktop/help_page.h"
 #include "desktop/keys.h"
-#include "desktop/palette.h"
+#include "desktop/painting/palette.h"
 #include "desktop/screen_form.h"
 #include "desktop/stage.h"
 #include "desktop/style.h"

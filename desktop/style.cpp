@@ -13,7 +13,7 @@
 #include <utility>
 
 #include "desktop/fonts.h"
-#include "desktop/palette.h"
+#include "desktop/painting/palette.h"
 #include "desktop/stage.h"
 
 namespace frostmark {

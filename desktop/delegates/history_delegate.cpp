@@ -3,10 +3,10 @@
 #include <QPainter>
 #include <utility>
 
-#include "desktop/delegates/row_painter.h"
-#include "desktop/delegates/row_text.h"
-#include "desktop/palette.h"
-#include "desktop/widgets/place_mark.h"
+#include "desktop/painting/palette.h"
+#include "desktop/painting/place_mark.h"
+#include "desktop/painting/row_painter.h"
+#include "desktop/painting/row_text.h"
 #include "records/lines/history_line.h"
 
 namespace frostmark {

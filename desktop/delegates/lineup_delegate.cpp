@@ -3,10 +3,10 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "desktop/delegates/row_painter.h"
-#include "desktop/delegates/row_text.h"
-#include "desktop/widgets/position_badge.h"
-#include "desktop/widgets/rating_painter.h"
+#include "desktop/painting/position_badge.h"
+#include "desktop/painting/rating_painter.h"
+#include "desktop/painting/row_painter.h"
+#include "desktop/painting/row_text.h"
 #include "records/lines/player_line.h"
 
 namespace frostmark {

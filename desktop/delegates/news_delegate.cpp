@@ -3,9 +3,9 @@
 #include <QPainter>
 #include <utility>
 
-#include "desktop/delegates/row_painter.h"
-#include "desktop/delegates/row_text.h"
-#include "desktop/widgets/place_mark.h"
+#include "desktop/painting/place_mark.h"
+#include "desktop/painting/row_painter.h"
+#include "desktop/painting/row_text.h"
 #include "records/lines/news_line.h"
 
 namespace frostmark {

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "desktop/delegates/row_delegate.h"
-#include "desktop/delegates/row_painter.h"
+#include "desktop/painting/row_painter.h"
 
 namespace frostmark {
 

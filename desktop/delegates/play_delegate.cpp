@@ -5,8 +5,8 @@
 #include <optional>
 #include <string>
 
-#include "desktop/delegates/row_painter.h"
-#include "desktop/palette.h"
+#include "desktop/painting/palette.h"
+#include "desktop/painting/row_painter.h"
 #include "records/lines/play_line.h"
 
 namespace frostmark {

@@ -5,11 +5,11 @@
 #include <algorithm>
 #include <cmath>
 
-#include "desktop/delegates/row_painter.h"
-#include "desktop/delegates/row_text.h"
-#include "desktop/palette.h"
-#include "desktop/widgets/position_badge.h"
-#include "desktop/widgets/rating_painter.h"
+#include "desktop/painting/palette.h"
+#include "desktop/painting/position_badge.h"
+#include "desktop/painting/rating_painter.h"
+#include "desktop/painting/row_painter.h"
+#include "desktop/painting/row_text.h"
 #include "records/lines/player_line.h"
 #include "records/lines/pool_line.h"
 

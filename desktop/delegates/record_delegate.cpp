@@ -2,9 +2,9 @@
 
 #include <QPainter>
 
-#include "desktop/delegates/row_painter.h"
-#include "desktop/delegates/row_text.h"
-#include "desktop/widgets/position_badge.h"
+#include "desktop/painting/position_badge.h"
+#include "desktop/painting/row_painter.h"
+#include "desktop/painting/row_text.h"
 #include "records/lines/player_record.h"
 
 namespace frostmark {

@@ -6,7 +6,7 @@
 #include <QPainter>
 #include <QToolTip>
 
-#include "desktop/delegates/row_painter.h"
+#include "desktop/painting/row_painter.h"
 
 namespace frostmark {
 

@@ -4,9 +4,9 @@
 #include <array>
 #include <utility>
 
-#include "desktop/delegates/row_painter.h"
-#include "desktop/delegates/row_text.h"
-#include "desktop/delegates/team_columns.h"
+#include "desktop/painting/row_painter.h"
+#include "desktop/painting/row_text.h"
+#include "desktop/painting/team_columns.h"
 #include "records/lines/standings_line.h"
 
 namespace frostmark {

@@ -3,7 +3,7 @@
 #include <functional>
 
 #include "desktop/delegates/row_delegate.h"
-#include "desktop/widgets/place_mark.h"
+#include "desktop/painting/place_mark.h"
 
 namespace frostmark {
 

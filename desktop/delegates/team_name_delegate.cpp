@@ -2,8 +2,8 @@
 
 #include <QPainter>
 
-#include "desktop/delegates/row_painter.h"
-#include "desktop/widgets/team_crest.h"
+#include "desktop/painting/row_painter.h"
+#include "desktop/painting/team_crest.h"
 
 namespace frostmark {
 

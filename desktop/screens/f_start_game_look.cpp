@@ -2,7 +2,7 @@
 #include "desktop/delegates/team_name_delegate.h"
 #include "desktop/fonts.h"
 #include "desktop/list_view.h"
-#include "desktop/palette.h"
+#include "desktop/painting/palette.h"
 #include "desktop/screen_form.h"
 #include "desktop/widgets/pin.h"
 #include "desktop/widgets/room.h"

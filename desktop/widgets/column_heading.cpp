@@ -7,7 +7,7 @@
 #include <QStyle>
 #include <algorithm>
 
-#include "desktop/delegates/row_painter.h"
+#include "desktop/painting/row_painter.h"
 
 namespace frostmark {
 

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <chrono>
 
-#include "desktop/palette.h"
+#include "desktop/painting/palette.h"
 
 namespace frostmark {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <QLabel>
 
-#include "desktop/widgets/place_mark.h"
+#include "desktop/painting/place_mark.h"
 
 namespace frostmark {
 

@@ -2,7 +2,7 @@
 
 #include <QPainter>
 
-#include "desktop/palette.h"
+#include "desktop/painting/palette.h"
 
 namespace frostmark {
 

@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <chrono>
 
-#include "desktop/motion.h"
-#include "desktop/widgets/team_crest.h"
+#include "desktop/painting/motion.h"
+#include "desktop/painting/team_crest.h"
 
 namespace frostmark {
 namespace {

@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "desktop/palette.h"
+#include "desktop/painting/palette.h"
 
 namespace frostmark {
 namespace {

@@ -4,7 +4,7 @@
 #include <QPainter>
 #include <cmath>
 
-#include "desktop/palette.h"
+#include "desktop/painting/palette.h"
 
 namespace frostmark {
 

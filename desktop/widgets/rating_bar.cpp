@@ -4,8 +4,8 @@
 #include <QPainter>
 #include <cmath>
 
-#include "desktop/palette.h"
-#include "desktop/widgets/rating_painter.h"
+#include "desktop/painting/palette.h"
+#include "desktop/painting/rating_painter.h"
 
 namespace frostmark {
 

@@ -6,11 +6,11 @@
 #include <QPainterPath>
 #include <chrono>
 
-#include "desktop/motion.h"
-#include "desktop/palette.h"
+#include "desktop/painting/motion.h"
+#include "desktop/painting/palette.h"
+#include "desktop/painting/rink_ice.h"
+#include "desktop/painting/rink_marks.h"
 #include "desktop/widgets/rating_chip.h"
-#include "desktop/widgets/rink_ice.h"
-#include "desktop/widgets/rink_marks.h"
 
 namespace frostmark {
 

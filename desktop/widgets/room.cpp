@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <QtMath>
 
-#include "desktop/delegates/row_painter.h"
+#include "desktop/painting/row_painter.h"
 
 namespace frostmark {
 

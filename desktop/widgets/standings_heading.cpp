@@ -6,8 +6,8 @@
 #include <QPainter>
 #include <cmath>
 
-#include "desktop/delegates/team_columns.h"
-#include "desktop/palette.h"
+#include "desktop/painting/palette.h"
+#include "desktop/painting/team_columns.h"
 
 namespace frostmark {
 

@@ -5,7 +5,7 @@
 #include <array>
 #include <cmath>
 
-#include "desktop/palette.h"
+#include "desktop/painting/palette.h"
 
 namespace frostmark {
 

@@ -3,7 +3,7 @@
 #include <QWidget>
 #include <vector>
 
-#include "desktop/widgets/place_mark.h"
+#include "desktop/painting/place_mark.h"
 
 namespace frostmark {
 

@@ -6,8 +6,8 @@
 #include <array>
 #include <cmath>
 
-#include "desktop/palette.h"
-#include "desktop/widgets/wordmark.h"
+#include "desktop/painting/palette.h"
+#include "desktop/painting/wordmark.h"
 
 namespace frostmark {
 namespace {

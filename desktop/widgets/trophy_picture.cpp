@@ -6,7 +6,7 @@
 #include <QRadialGradient>
 #include <array>
 
-#include "desktop/palette.h"
+#include "desktop/painting/palette.h"
 
 namespace frostmark {
 

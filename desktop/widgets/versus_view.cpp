@@ -3,8 +3,8 @@
 #include <QPainter>
 #include <QPainterPath>
 
-#include "desktop/palette.h"
-#include "desktop/widgets/team_crest.h"
+#include "desktop/painting/palette.h"
+#include "desktop/painting/team_crest.h"
 
 namespace frostmark {
 namespace {

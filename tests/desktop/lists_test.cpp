@@ -10,9 +10,9 @@
 #include <QtTest>
 
 #include "desktop/delegates/row_delegate.h"
-#include "desktop/delegates/row_painter.h"
 #include "desktop/delegates/team_delegate.h"
 #include "desktop/list_view.h"
+#include "desktop/painting/row_painter.h"
 #include "desktop/widgets/column_heading.h"
 #include "desktop/widgets/fate_label.h"
 #include "desktop/widgets/rink_view.h"

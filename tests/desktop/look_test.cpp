@@ -26,10 +26,10 @@
 #include "desktop/delegates/team_delegate.h"
 #include "desktop/delegates/team_name_delegate.h"
 #include "desktop/list_view.h"
-#include "desktop/palette.h"
+#include "desktop/painting/palette.h"
+#include "desktop/painting/position_badge.h"
 #include "desktop/widgets/arrow_button.h"
 #include "desktop/widgets/leave_mark.h"
-#include "desktop/widgets/position_badge.h"
 #include "desktop/widgets/rating_chip.h"
 #include "tests/desktop/person.h"
 

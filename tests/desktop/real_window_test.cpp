@@ -6,7 +6,7 @@
 #include <QtTest>
 
 #include "desktop/compositing.h"
-#include "desktop/palette.h"
+#include "desktop/painting/palette.h"
 #include "tests/desktop/person.h"
 #include "tests/desktop/window_game.h"
 

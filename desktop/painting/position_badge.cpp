@@ -1,9 +1,9 @@
-#include "desktop/widgets/position_badge.h"
+#include "desktop/painting/position_badge.h"
 
 #include <QFont>
 #include <QPainter>
 
-#include "desktop/palette.h"
+#include "desktop/painting/palette.h"
 
 namespace frostmark {
 

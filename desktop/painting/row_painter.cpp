@@ -1,4 +1,4 @@
-#include "desktop/delegates/row_painter.h"
+#include "desktop/painting/row_painter.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -7,7 +7,7 @@
 #include <QWidget>
 #include <algorithm>
 
-#include "desktop/palette.h"
+#include "desktop/painting/palette.h"
 
 namespace frostmark::row {
 

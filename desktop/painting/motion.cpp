@@ -1,4 +1,4 @@
-#include "desktop/motion.h"
+#include "desktop/painting/motion.h"
 
 #include <QApplication>
 #include <QDBusConnection>

@@ -1,11 +1,11 @@
-#include "desktop/widgets/place_mark.h"
+#include "desktop/painting/place_mark.h"
 
 #include <QPainter>
 #include <QPainterPath>
 #include <cmath>
 #include <numbers>
 
-#include "desktop/palette.h"
+#include "desktop/painting/palette.h"
 
 namespace frostmark {
 

@@ -1,8 +1,8 @@
-#include "desktop/widgets/rink_ice.h"
+#include "desktop/painting/rink_ice.h"
 
 #include <QPainter>
 
-#include "desktop/palette.h"
+#include "desktop/painting/palette.h"
 
 namespace frostmark::rink {
 namespace {

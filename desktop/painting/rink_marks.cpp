@@ -1,8 +1,8 @@
-#include "desktop/widgets/rink_marks.h"
+#include "desktop/painting/rink_marks.h"
 
 #include <QPainter>
 
-#include "desktop/widgets/rink_ice.h"
+#include "desktop/painting/rink_ice.h"
 
 namespace frostmark::rink {
 namespace {

@@ -1,4 +1,4 @@
-#include "desktop/widgets/wordmark.h"
+#include "desktop/painting/wordmark.h"
 
 #include <cstdlib>
 

@@ -1,10 +1,10 @@
-#include "desktop/widgets/rating_painter.h"
+#include "desktop/painting/rating_painter.h"
 
 #include <QLinearGradient>
 #include <QPainter>
 #include <algorithm>
 
-#include "desktop/palette.h"
+#include "desktop/painting/palette.h"
 
 namespace frostmark {
 

@@ -1,9 +1,9 @@
-#include "desktop/widgets/team_crest.h"
+#include "desktop/painting/team_crest.h"
 
 #include <QPainter>
 #include <QPainterPath>
 
-#include "desktop/palette.h"
+#include "desktop/painting/palette.h"
 
 namespace frostmark {
 namespace {
