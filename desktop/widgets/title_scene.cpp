@@ -187,10 +187,11 @@ void DrawPuck(QPainter& painter, const QRectF& area) {
 }
 
 // The name of the game, in ice with a blue and a red line under it.
-void DrawName(QPainter& painter, const QRectF& area) {
-  const double margin = area.height() * 0.07;
+// The name begins at LEFT, above what stands below it.
+void DrawName(QPainter& painter, const QRectF& area, double left) {
+  const double top = area.height() * 0.06;
   const double scale = area.height() * 0.1 / kWordmarkHeight;
-  const QPainterPath name = QTransform::fromTranslate(area.left() + margin, area.top() + margin)
+  const QPainterPath name = QTransform::fromTranslate(area.left() + left, area.top() + top)
                                 .scale(scale, scale)
                                 .map(Wordmark());
   const QRectF at = name.boundingRect();
@@ -241,7 +242,7 @@ QSize TitleScene::sizeHint() const {
   return QSize(line * 55, line * 34).expandedTo(content);
 }
 
-int TitleScene::NameHeight(int height) { return static_cast<int>(height * 0.17); }
+int TitleScene::NameHeight(int height) { return static_cast<int>(height * 0.18); }
 
 QPixmap TitleScene::Drawn() const {
   const QRect area(rect());
@@ -256,7 +257,7 @@ QPixmap TitleScene::Drawn() const {
   DrawIce(painter, area);
   DrawBoards(painter, area);
   DrawPuck(painter, area);
-  DrawName(painter, area);
+  DrawName(painter, area, layout() == nullptr ? 0 : layout()->contentsMargins().left());
   CutCorners(painter, area);
   return scene;
 }

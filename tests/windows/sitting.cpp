@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QDir>
 #include <QListView>
 #include <chrono>
 #include <condition_variable>
@@ -32,6 +33,9 @@ QRect OnScreen(const QWidget& widget, const QRect& part) {
   return QRect((QPointF(widget.mapToGlobal(part.topLeft())) * scale).toPoint(),
                (QSizeF(part.size()) * scale).toSize());
 }
+
+// Where a pixel of the layout is one and a half of the screen, places are rounded.
+bool Near(QPoint one, QPoint other) { return (one - other).manhattanLength() <= 2; }
 
 std::string NameOf(const QWidget* widget) {
   return widget == nullptr ? "nothing" : widget->objectName().toStdString();
@@ -76,11 +80,24 @@ void Sitting::UntilInFront(const Screen& screen) {
     const XWindow window = Window(screen);
     if (!window.mapped || window.iconic || x_.Active() != window.id) return false;
     // The application learns a little later where its window is.
-    return window.place == Ask([&] {
-             const ScreenWindow& known = game_.Window(screen);
-             return OnScreen(known, known.rect());
-           });
+    const QRect known = Ask([&] {
+      const ScreenWindow& own = game_.Window(screen);
+      return OnScreen(own, own.rect());
+    });
+    return Near(known.topLeft(), window.place.topLeft()) &&
+           Near(known.bottomRight(), window.place.bottomRight());
   });
+  Keep(screen.Name());
+}
+
+void Sitting::Keep(const std::string& what) {
+  const QString folder = qEnvironmentVariable("FROSTMARK_TEST_PICTURES");
+  if (folder.isEmpty()) return;
+  Ask([] { QApplication::processEvents(QEventLoop::ExcludeUserInputEvents); });
+  QDir().mkpath(folder);
+  const QString number = QString::number(++pictures_).rightJustified(3, '0');
+  x_.Picture(QRect(QPoint(), x_.Screen()))
+      .save(folder + "/" + number + "-" + QString::fromStdString(what) + ".png");
 }
 
 void Sitting::UntilAt(const Screen& screen, const std::string& name) {
@@ -158,6 +175,7 @@ void Sitting::AnswerBox(const std::string& key, const std::string& text) {
     return box != nullptr;
   });
   x_.Type(text);
+  Keep("box");
   x_.Key(key);
   UntilGame("the box gone", [box] { return Box() != box; });
 }

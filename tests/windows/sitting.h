@@ -15,6 +15,7 @@
 // mouse of the X server, and their eyes what the server says of the windows (x_display.h). What is
 // asked of the game itself, Ask() has answered by the thread of the windows. Until() waits for a
 // condition, and fails the test when it never comes true; after a failure the script ends at once.
+// What they saw is kept in the folder that FROSTMARK_TEST_PICTURES names, if it does.
 // The program ends with the script, and any procedure that still runs is unwound.
 
 #include <QEvent>
@@ -89,10 +90,12 @@ class Sitting {
   friend void Sit(const std::function<void(Sitting&)>& script);
 
   void OnWindows(const std::function<void()>& job);
+  void Keep(const std::string& what);
   void ChooseInDraft();
 
   WindowGame& game_;
   XDisplay x_;
+  int pictures_ = 0;
 };
 
 // Plays SCRIPT in front of a game whose start screen is on view.
