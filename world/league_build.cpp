@@ -1,5 +1,7 @@
 #include <array>
+#include <filesystem>
 #include <limits>
+#include <system_error>
 
 #include "development/league_moves.h"
 #include "program/program.h"
@@ -41,6 +43,16 @@ constexpr std::array<Band, kRankCount> kBands = {{
     {"Rank A", 6, 88, std::numeric_limits<int>::max()},
 }};
 
+// False also where that cannot be seen: a listing that fails looks like one of an empty folder.
+bool HoldsNoFile(const std::string& folder) {
+  std::error_code error;
+  std::filesystem::directory_iterator entry(folder, error);
+  for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+    if (std::error_code ignored; entry->is_regular_file(ignored)) return false;
+  }
+  return !error;
+}
+
 // Takes one item out of LIST by chance.
 std::string Draw(Ordvik& ordvik, RecordList& list) {
   const int index = ordvik.RollUpTo(list.ListCount()) - 1;
@@ -63,11 +75,10 @@ void Startup::BuildLeague() {
     File1.SetPath(program_.ordvik.RankFolder(rank));
     const int count = File1.ListCount();
     for (int i = 0; i < count; ++i) {
-      const std::string team = program_.ordvik.TeamPath(rank, File1.List(i));
-      Ordvik::DeleteFile(team);
-      if (Ordvik::FileExists(team)) whole = false;
+      Ordvik::DeleteFile(program_.ordvik.TeamPath(rank, File1.List(i)));
       program_.desktop.Yield();
     }
+    if (!HoldsNoFile(program_.ordvik.RankFolder(rank))) whole = false;
   }
   for (const Band& band : kBands) {
     for (int team = 0; team < band.teams; ++team) {

@@ -112,6 +112,28 @@ TEST_F(DiskTest, WhereNoNewFileIsAllowedTheOldOneIsWrittenOver) {
   EXPECT_TRUE(world.SettingsNames().empty());
 }
 
+// Nothing is deleted in a league that cannot be listed: the new teams come beside the old ones.
+TEST_F(DiskTest, AWorldThatIsBuiltBesideAnotherKeepsItsMark) {
+  if (geteuid() != 0) GTEST_SKIP() << "only the superuser can become another user";
+  world.FillWorld();
+  for (const char* folder : {"", "/Settings", "/Teams", "/Teams/Rank F", "/Teams/Rank E",
+                             "/Teams/Rank D", "/Teams/Rank C", "/Teams/Rank B", "/Teams/Rank A"}) {
+    fs::permissions(world.path() + folder, fs::perms::all, fs::perm_options::replace);
+  }
+  const auto build = [this] {
+    dice().KeepRolls(false);
+    startup().BuildLeague();
+  };
+  fs::permissions(world.path() + "/Teams/Rank C", fs::perms::others_read, fs::perm_options::remove);
+  AsAnotherUser(build);
+  EXPECT_EQ(world.FileNames("Rank C").size(), 12U);
+  EXPECT_EQ(world.SettingsNames(), Lines{"unfinished.new"});
+  fs::permissions(world.path() + "/Teams/Rank C", fs::perms::others_read, fs::perm_options::add);
+  AsAnotherUser(build);
+  EXPECT_EQ(world.FileNames("Rank C").size(), 6U);
+  EXPECT_TRUE(world.SettingsNames().empty());
+}
+
 // A league on another disk, where no rename leads.
 class OtherDiskTest : public DiskTest {
  protected:
