@@ -5,7 +5,7 @@
 #include "records/runtime_error.h"
 #include "tests/fuzz/fuzz.h"
 
-namespace frostmark::fuzz {
+namespace frostmark::test {
 namespace {
 
 void Read(Names& names, std::string_view line) {
@@ -37,4 +37,4 @@ void Take(std::string_view input) {
   }
 }
 
-}  // namespace frostmark::fuzz
+}  // namespace frostmark::test

@@ -4,6 +4,6 @@
 #include "tests/fuzz/fuzz.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  frostmark::fuzz::Take({reinterpret_cast<const char*>(data), size});
+  frostmark::test::Take({reinterpret_cast<const char*>(data), size});
   return 0;
 }

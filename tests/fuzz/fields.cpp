@@ -5,7 +5,7 @@
 #include "records/runtime_error.h"
 #include "tests/fuzz/fuzz.h"
 
-namespace frostmark::fuzz {
+namespace frostmark::test {
 
 void Take(std::string_view input) {
   static Game game;
@@ -32,4 +32,4 @@ void Take(std::string_view input) {
   }
 }
 
-}  // namespace frostmark::fuzz
+}  // namespace frostmark::test

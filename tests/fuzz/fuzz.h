@@ -8,7 +8,7 @@
 #include "program/program.h"
 #include "ui/headless_desktop.h"
 
-namespace frostmark::fuzz {
+namespace frostmark::test {
 
 // Each target is one of these. Errors of the game's own (RuntimeError, Refusal) are answers like
 // others; anything else that is thrown, and whatever the sanitizers see, is a finding.
@@ -21,7 +21,7 @@ inline void Require(bool condition, std::string_view what) {
   std::abort();
 }
 
-// Dice that fall the same way for the same input.
+// Dice that count up, so that a target can begin each input with the same rolls at no cost.
 class CountingDice : public Dice {
  public:
   int Roll(int n) override { return static_cast<int>(count_++ % static_cast<unsigned>(n)) + 1; }
@@ -51,4 +51,4 @@ inline void FillList(RecordList& list, std::string_view input) {
   }
 }
 
-}  // namespace frostmark::fuzz
+}  // namespace frostmark::test

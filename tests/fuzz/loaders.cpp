@@ -3,13 +3,13 @@
 
 #include "records/lines/player_record.h"
 #include "tests/fuzz/fuzz.h"
-#include "tests/fuzz/world_in_memory.h"
+#include "tests/support/temporary_world.h"
 
-namespace frostmark::fuzz {
+namespace frostmark::test {
 namespace {
 
 struct Loading {
-  WorldInMemory world;
+  TemporaryWorld world;
   Game game{world.path()};
   RecordList first;
   RecordList second;
@@ -40,23 +40,23 @@ void Take(std::string_view input) {
   static Loading loading;
   auto& [world, game, first, second] = loading;
   Ordvik& ordvik = game.program.ordvik;
-  world.Write("Teams/Rank F/Team", input);
+  WriteText(world.TeamPath("Rank F", "Team"), input);
   first.Clear();
-  ordvik.LoadPlayerFile(first, world.path() + "/Teams/Rank F/Team");
+  ordvik.LoadPlayerFile(first, world.TeamPath("Rank F", "Team"));
   for (int i = 0; i < first.ListCount(); ++i) {
     const std::string& record = first.List(i);
     Require(std::count(record.begin(), record.end(), ',') >= kFieldCount - 1, "nine fields");
   }
   if (IsPlain(first)) {
-    ordvik.SaveListFile(first, world.path() + "/Teams/Rank F/Team");
+    ordvik.SaveListFile(first, world.TeamPath("Rank F", "Team"));
     second.Clear();
-    ordvik.LoadPlayerFile(second, world.path() + "/Teams/Rank F/Team");
+    ordvik.LoadPlayerFile(second, world.TeamPath("Rank F", "Team"));
     Require(Same(first, second), "a written team is read as it was");
   }
-  world.Write("Settings/Alerts.fmk", input);
+  WriteText(world.SettingsPath("Alerts.fmk"), input);
   second.Clear();
   ordvik.LoadSettingsList(second, "Alerts.fmk");
   Require(first.ListCount() == second.ListCount() / kFieldCount, "nine items make a record");
 }
 
-}  // namespace frostmark::fuzz
+}  // namespace frostmark::test

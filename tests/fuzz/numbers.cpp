@@ -6,7 +6,7 @@
 #include "records/runtime_error.h"
 #include "tests/fuzz/fuzz.h"
 
-namespace frostmark::fuzz {
+namespace frostmark::test {
 
 void Take(std::string_view input) {
   const double number = LenientNumber(input);
@@ -29,4 +29,4 @@ void Take(std::string_view input) {
   Require(text.find_first_not_of("-0123456789") == std::string::npos, "plain digits");
 }
 
-}  // namespace frostmark::fuzz
+}  // namespace frostmark::test

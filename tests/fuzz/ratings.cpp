@@ -2,7 +2,7 @@
 #include "records/runtime_error.h"
 #include "tests/fuzz/fuzz.h"
 
-namespace frostmark::fuzz {
+namespace frostmark::test {
 
 void Take(std::string_view input) {
   static Game game;
@@ -17,4 +17,4 @@ void Take(std::string_view input) {
   Require(list.ListCount() == count, "rating changes nothing");
 }
 
-}  // namespace frostmark::fuzz
+}  // namespace frostmark::test

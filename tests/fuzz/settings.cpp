@@ -1,17 +1,17 @@
-// A settings file of any bytes behind the first line, which is written into it.
+// A settings file of any bytes after the first line, which is written into it.
 #include <array>
 
 #include "tests/fuzz/fuzz.h"
-#include "tests/fuzz/world_in_memory.h"
+#include "tests/support/temporary_world.h"
 
-namespace frostmark::fuzz {
+namespace frostmark::test {
 namespace {
 
 constexpr std::array kKeys = {"Team", "Rank", "Week", "Season", "Champion"};
 constexpr std::size_t kLongestValue = 254;
 
 struct Settings {
-  WorldInMemory world;
+  TemporaryWorld world;
   Game game{world.path()};
 };
 
@@ -31,7 +31,7 @@ void Take(std::string_view input) {
   const std::size_t end = std::min(input.find('\n'), input.size());
   const std::string_view value = input.substr(0, end);
   input.remove_prefix(std::min(end + 1, input.size()));
-  settings.world.Write("Settings/settings.fmk", input);
+  WriteText(settings.world.SettingsPath("settings.fmk"), input);
   Ordvik& ordvik = settings.game.program.ordvik;
   std::array<std::string, kKeys.size()> before;
   for (std::size_t i = 0; i < kKeys.size(); ++i) {
@@ -46,4 +46,4 @@ void Take(std::string_view input) {
   }
 }
 
-}  // namespace frostmark::fuzz
+}  // namespace frostmark::test

@@ -5,7 +5,7 @@
 #include "records/runtime_error.h"
 #include "tests/fuzz/fuzz.h"
 
-namespace frostmark::fuzz {
+namespace frostmark::test {
 namespace {
 
 std::vector<std::string> Sorted(const RecordList& list) {
@@ -42,4 +42,4 @@ void Take(std::string_view input) {
   Require(list.ListCount() == count, "nobody is lost");
 }
 
-}  // namespace frostmark::fuzz
+}  // namespace frostmark::test

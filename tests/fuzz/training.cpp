@@ -2,7 +2,7 @@
 #include "records/runtime_error.h"
 #include "tests/fuzz/fuzz.h"
 
-namespace frostmark::fuzz {
+namespace frostmark::test {
 
 void Take(std::string_view input) {
   static Game game;
@@ -22,4 +22,4 @@ void Take(std::string_view input) {
   Require(list.ListCount() == count, "nobody is lost");
 }
 
-}  // namespace frostmark::fuzz
+}  // namespace frostmark::test

@@ -27,14 +27,6 @@ class MatchMachineTest : public MatchMachine<Machine> {
   }
 };
 
-using Machines = ::testing::Types<GameSimulation, Game>;
-class MachineNames {
- public:
-  template <typename Machine>
-  static std::string GetName(int) {
-    return std::is_same_v<Machine, Game> ? "Watched" : "Unwatched";
-  }
-};
 TYPED_TEST_SUITE(MatchMachineTest, Machines, MachineNames);
 
 TYPED_TEST(MatchMachineTest, AFaceOffIsATossAndOneToSixPasses) {

@@ -97,4 +97,14 @@ class MatchMachine : public GameFixture {
   Lines line2;
 };
 
+// Both engines, for the tests of what they share.
+using Machines = ::testing::Types<GameSimulation, Game>;
+class MachineNames {
+ public:
+  template <typename Machine>
+  static std::string GetName(int) {
+    return std::is_same_v<Machine, Game> ? "Watched" : "Unwatched";
+  }
+};
+
 }  // namespace frostmark::test

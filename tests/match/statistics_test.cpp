@@ -53,14 +53,6 @@ class MatchStatisticsTest : public MatchMachine<Machine> {
   }
 };
 
-using Machines = ::testing::Types<GameSimulation, Game>;
-class MachineNames {
- public:
-  template <typename Machine>
-  static std::string GetName(int) {
-    return std::is_same_v<Machine, Game> ? "Watched" : "Unwatched";
-  }
-};
 TYPED_TEST_SUITE(MatchStatisticsTest, Machines, MachineNames);
 
 TYPED_TEST(MatchStatisticsTest, GoodTeamsScoreSixAGame) {

@@ -2,16 +2,10 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QFile>
 
 #include "desktop/screen_window.h"
 
 namespace frostmark {
-
-int FixedDice::Roll(int n) {
-  state_ = state_ * 6364136223846793005ULL + 1442695040888963407ULL;
-  return n < 1 ? 1 : static_cast<int>((state_ >> 33U) % static_cast<unsigned int>(n)) + 1;
-}
 
 void WillingDesktop::Wait() {
   if (while_waiting) {
@@ -35,18 +29,8 @@ Answer WillingDesktop::ShowBox(const MessageBox& box) {
 std::string WillingDesktop::AskText(const std::string& /*prompt*/) { return {}; }
 
 Album::Album(QString out) : out_(std::move(out)) {
-  LayOutFolders();
   QDir().mkpath(out_);
-  program_ =
-      std::make_unique<Program>(desktop_, dice_, QFile::encodeName(folder_.path()).toStdString());
-}
-
-void Album::LayOutFolders() {
-  const QDir folder(folder_.path());
-  folder.mkpath("Settings");
-  for (const char* rank : {"F", "E", "D", "C", "B", "A"}) {
-    folder.mkpath(QString("Teams/Rank %1").arg(rank));
-  }
+  program_ = std::make_unique<Program>(desktop_, dice_, world_.path());
 }
 
 void Album::Take(const Screen& screen, const QString& name) {

@@ -1,26 +1,17 @@
 #pragma once
 
-#include <QTemporaryDir>
+#include <QString>
 #include <chrono>
-#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
 
 #include "desktop/qt_desktop.h"
 #include "program/program.h"
-#include "records/dice.h"
+#include "tests/support/seeded_dice.h"
+#include "tests/support/temporary_world.h"
 
 namespace frostmark {
-
-// Dice that fall the same way at every start, so that pictures change only when the looks do.
-class FixedDice : public Dice {
- public:
-  int Roll(int n) override;
-
- private:
-  std::uint64_t state_ = 20;
-};
 
 // A desktop on which every question is answered with Yes before anybody sees it, and on which the
 // time that the game waits for has passed at once.
@@ -55,12 +46,10 @@ class Album {
   static void Run(Timer& timer, int times);
 
  private:
-  void LayOutFolders();
-
   QString out_;
-  QTemporaryDir folder_;
+  test::TemporaryWorld world_;
   WillingDesktop desktop_;
-  FixedDice dice_;
+  test::SeededDice dice_{20};  // a seed, so that pictures change only when the looks do
   std::unique_ptr<Program> program_;
 };
 
