@@ -1,11 +1,9 @@
 # `cmake --install DIR --prefix P` lays out a portable folder: the programs with the empty league
-# folders and Settings beside them. git holds no empty folder, and a league folder must hold nothing
-# but teams, so they are made here. A world that is already there stays as it is.
+# folders and Settings of data/ beside them. git holds no empty folder, so each has a place holder,
+# and a league folder must hold nothing but teams, so it stays behind. A world that is already there
+# stays as it is.
 install(TARGETS frostmark-console RUNTIME DESTINATION .)
-foreach(rank F E D C B A)
-  install(DIRECTORY DESTINATION "Teams/Rank ${rank}")
-endforeach()
-install(DIRECTORY DESTINATION Settings)
+install(DIRECTORY data/ DESTINATION . PATTERN .keep EXCLUDE)
 install(FILES LICENSE DESTINATION .)
 
 # The folder knows no place of its own, so it goes into the menu only when its user asks for it.
