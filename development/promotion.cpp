@@ -11,14 +11,15 @@ namespace frostmark {
 namespace {
 
 constexpr int kWinner = 0;
-constexpr int kLoser = 5;
+constexpr int kLoser = kTeamsInLeague - 1;
 constexpr std::size_t kTop = kRanks.size() - 1;
 
 // VALUE as people write it: 3, 3.5.
 std::string NumberText(double value) {
   if (value == std::floor(value)) return WholeNumberText(value);
   constexpr int kDigits = 15;
-  std::array<char, 32> text{};
+  constexpr std::size_t kLongest = 32;  // sign, digits, point and exponent fit well within
+  std::array<char, kLongest> text{};
   const auto end = std::to_chars(text.data(), text.data() + text.size(), value,
                                  std::chars_format::general, kDigits);
   return {text.data(), end.ptr};

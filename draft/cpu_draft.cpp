@@ -1,133 +1,119 @@
-#include <algorithm>
 #include <array>
-#include <chrono>
-#include <cmath>
 
+#include "draft/retirement.h"
 #include "program/program.h"
 #include "records/leagues.h"
+#include "records/lines/history_line.h"
 #include "records/runtime_error.h"
 
 namespace frostmark {
+namespace {
 
-void Ordvik::WaitSeconds(const std::string& seconds) {
-  // Nothing waits longer than a day: by then the clock has been round.
-  constexpr double kDay = 24 * 60 * 60;
-  const std::chrono::duration<double> wanted(std::clamp(LenientNumber(seconds), 0.0, kDay));
-  auto length = std::chrono::duration_cast<std::chrono::microseconds>(wanted);
-  const auto start = program_.desktop.SinceMidnight();
-  std::chrono::microseconds passed{0};
-  while (passed < length) {
-    queue_.WaitFor(length - passed);
-    passed = program_.desktop.SinceMidnight() - start;
-    // The clock begins anew at midnight and is not corrected for it: the difference is then
-    // negative, and the wait lasts until the time of its start has come round again.
-    if (passed.count() < 0) length = std::chrono::microseconds(0);
+// A roster's positions: a goalie, and a player on either line at each other one.
+constexpr int kGoalies = 1;
+constexpr int kSkatersOfPosition = 2;
+constexpr int kPlayersOfTeam = 11;
+// The weakest of them, at the end of the sorted roster, are the ones that may be let go.
+constexpr int kMayGo = 3;
+constexpr int kLastSafe = kPlayersOfTeam - kMayGo - 1;
+constexpr int kGrownUp = 25;         // years; whom a team lets go first
+constexpr const char* kPause = "1";  // second, before and between the steps of a turn
+
+// Of the three weakest the first who is grown up has to go, the weakest before the others; if all
+// three are younger, the weakest. The team's file keeps the order of this sort. Returns the
+// leaver's Training.
+std::string ReleasePlayer(Program& program) {
+  FDraft& draft = program.f_draft;
+  ListBox& roster = draft.tempList;
+  HockeyNaming::SortByOverall(roster);
+  int leaver = roster.ListCount();
+  double age = 0;
+  do {
+    --leaver;
+    program.desktop.Yield();
+    if (leaver < 0) throw RuntimeError("Invalid list index: " + std::to_string(leaver));
+    age = LenientNumber(FieldView(roster.List(leaver), Field::kAge));
+  } while (leaver != kLastSafe && age < kGrownUp);
+  if (leaver == kLastSafe) leaver = roster.ListCount() - 1;
+  draft.ReleasedPlayer = roster.List(leaver);
+  draft.Events.AddItem(FormatRelease(draft.ReleasedPlayer, draft.CurTeam.Caption()));
+  roster.RemoveItem(leaver);
+  return HockeyNaming::GetField(draft.ReleasedPlayer, "Training");
+}
+
+// Takes one player of a computer's team out of tempList and returns the leaver's Training.
+std::string PartWithPlayer(Program& program) {
+  FDraft& draft = program.f_draft;
+  const int retiring = RollRetirement(program.ordvik, program.desktop, draft.tempList);
+  if (retiring < 0) return ReleasePlayer(program);
+  const std::string record = draft.tempList.List(retiring);
+  draft.Events.AddItem(FormatRetirement(record, draft.CurTeam.Caption()));
+  draft.tempList.RemoveItem(retiring);
+  return HockeyNaming::GetField(record, "Training");
+}
+
+// A position that is short gets the best of the pool, once, however short it is. The replacement
+// takes over the line of the player who left.
+void Refill(Program& program, std::string_view training) {
+  FDraft& draft = program.f_draft;
+  std::array<int, kPositionCount> players{};
+  const int count = draft.tempList.ListCount();
+  for (int i = 0; i < count; ++i) {
+    for (std::size_t p = 0; p < kDraftOrder.size(); ++p) {
+      if (FieldView(draft.tempList.List(i), Field::kPosition) == kDraftOrder[p]) ++players[p];
+    }
+    program.desktop.Yield();
+  }
+  for (std::size_t p = 0; p < kDraftOrder.size(); ++p) {
+    const bool goalie = kDraftOrder[p] == std::string_view("GO");
+    if (players[p] >= (goalie ? kGoalies : kSkatersOfPosition)) continue;
+    ListPair& list = *draft.Pool()[p];
+    const std::string record = list.records.List(0);
+    draft.tempList.AddItem(program.hockey_naming.SetField(record, "Training", training));
+    draft.Events.AddItem(FormatPick(record, draft.CurTeam.Caption()));
+    list.records.RemoveItem(0);
+    list.shown.RemoveItem(0);
   }
 }
 
+void TakeComputersTurn(Program& program) {
+  const std::string training = PartWithPlayer(program);
+  program.ordvik.WaitSeconds(kPause);
+  Refill(program, training);
+}
+
+}  // namespace
+
 void FDraft::RunDraft() {
+  Ordvik& ordvik = program_.ordvik;
   Command1.Disable();
   AwaitingPick = false;
   for (auto rank = kRanks.rbegin(); rank != kRanks.rend(); ++rank) {
     CurRank.SetCaption(*rank);
-    File1.SetPath(program_.ordvik.RankFolder(*rank));
+    File1.SetPath(ordvik.RankFolder(*rank));
     int team = File1.ListCount() - 1;
     do {
-      TakeTurn(team);
+      tempList.Clear();
+      ordvik.WaitSeconds(kPause);
+      CurTeam.SetCaption(File1.List(team));
+      const std::string path = File1.Path() + "/" + File1.List(team);
+      ordvik.LoadPlayerFile(tempList, path);
+      if (CurTeam.Caption() == program_.franchise.TeamName.Caption()) {
+        AwaitingPick = true;
+        StartPlayerTurn();
+        while (AwaitingPick) program_.desktop.Wait();
+      } else {
+        TakeComputersTurn(program_);
+      }
+      // Only now does the player let go enter the pool, so that no team takes its own back.
+      if (!ReleasedPlayer.empty()) AddDraftee(ReleasedPlayer);
+      ordvik.SaveListFile(tempList, path);
+      ordvik.WaitSeconds(kPause);
       --team;
       program_.desktop.Yield();
     } while (team != -1);
   }
   Command1.Enable();
-}
-
-void FDraft::TakeTurn(int team) {
-  Ordvik& ordvik = program_.ordvik;
-  tempList.Clear();
-  ordvik.WaitSeconds("1");
-  CurTeam.SetCaption(File1.List(team));
-  const std::string path = File1.Path() + "/" + File1.List(team);
-  ordvik.LoadPlayerFile(tempList, path);
-  if (CurTeam.Caption() == program_.franchise.TeamName.Caption()) {
-    AwaitingPick = true;
-    StartPlayerTurn();
-    while (AwaitingPick) program_.desktop.Wait();
-  } else {
-    const std::string training = PartWithPlayer();
-    ordvik.WaitSeconds("1");
-    Refill(training);
-  }
-  // Only now does the man let go enter the pool, so that his own team can't take him back.
-  if (!ReleasedPlayer.empty()) AddDraftee(ReleasedPlayer);
-  ordvik.SaveListFile(tempList, path);
-  ordvik.WaitSeconds("1");
-}
-
-// The index of the first player of tempList to retire this year, -1 if nobody does. Those nearest
-// the head of the list are asked first, and one retirement a team and year is all.
-int FDraft::FindRetirement() {
-  const int count = tempList.ListCount();
-  for (int i = 0; i < count; ++i) {
-    const double age = std::floor(LenientNumber(FieldView(tempList.List(i), Field::kAge)));
-    if (age > 30 && age < 35 && program_.ordvik.RollUpTo(10) <= 3) return i;
-    if (age >= 35 && program_.ordvik.RollUpTo(10) <= 8) return i;
-    program_.desktop.Yield();
-  }
-  return -1;
-}
-
-// Takes one player of a computer's team out of tempList and returns his Training.
-std::string FDraft::PartWithPlayer() {
-  const int retiring = FindRetirement();
-  if (retiring < 0) return ReleasePlayer();
-  const std::string record = tempList.List(retiring);
-  AddRetirement(record);
-  tempList.RemoveItem(retiring);
-  return HockeyNaming::GetField(record, "Training");
-}
-
-// Of the three weakest the first who is 25 or older has to go, the weakest before the others; if
-// all three are younger, the weakest. The team's file keeps the order of this sort.
-std::string FDraft::ReleasePlayer() {
-  constexpr int kFirstSafe = 7;
-  constexpr int kGrownUp = 25;
-  HockeyNaming::SortByOverall(tempList);
-  int leaver = tempList.ListCount();
-  double age = 0;
-  do {
-    --leaver;
-    program_.desktop.Yield();
-    if (leaver < 0) throw RuntimeError("Invalid list index: " + std::to_string(leaver));
-    age = LenientNumber(FieldView(tempList.List(leaver), Field::kAge));
-  } while (leaver != kFirstSafe && age < kGrownUp);
-  if (leaver == kFirstSafe) leaver = tempList.ListCount() - 1;
-  ReleasedPlayer = tempList.List(leaver);
-  AddRelease(ReleasedPlayer);
-  tempList.RemoveItem(leaver);
-  return HockeyNaming::GetField(ReleasedPlayer, "Training");
-}
-
-// A position that is short gets the best man of the pool, once, however short it is. He takes over
-// the line of the man who left.
-void FDraft::Refill(std::string_view training) {
-  std::array<int, kPositions.size()> players{};
-  const int count = tempList.ListCount();
-  for (int i = 0; i < count; ++i) {
-    for (std::size_t p = 0; p < kPositions.size(); ++p) {
-      if (FieldView(tempList.List(i), Field::kPosition) == kPositions[p]) ++players[p];
-    }
-    program_.desktop.Yield();
-  }
-  for (std::size_t p = 0; p < kPositions.size(); ++p) {
-    const int wanted = kPositions[p] == std::string_view("GO") ? 1 : 2;
-    if (players[p] >= wanted) continue;
-    ListPair& list = *Pool()[p];
-    const std::string record = list.records.List(0);
-    tempList.AddItem(program_.hockey_naming.SetField(record, "Training", training));
-    AddPick(record);
-    list.records.RemoveItem(0);
-    list.shown.RemoveItem(0);
-  }
 }
 
 }  // namespace frostmark

@@ -52,41 +52,25 @@ class FDraft : public Screen {
   // The pool in its fixed order, and the position of each pair.
   static constexpr PositionOrder kPositions = kDraftOrder;
   std::array<ListPair*, 6> Pool() { return {&List1, &List2, &List3, &List4, &List5, &List6}; }
-  // The pair of POSITION, or nullptr when it is none of the six.
+  // The pair of POSITION, or nullptr for none of the six.
   ListPair* Pool(std::string_view position);
-
-  // draft/pool.cpp
-  // Fills LIST with twenty new players of POSITION, as yet without their pool lines.
-  void RollProspects(ListPair& list, const char* position);
-  // Adds the pool line of every record in element 1 of LIST to element 0.
-  void ShowPoolLines(ListPair& list);
   // Opens or closes all six lists of the pool.
   void SetPoolEnabled(bool enabled);
 
+  // draft/pool.cpp
+  // Puts RECORD back into the pool and empties it.
+  void AddDraftee(std::string& record);
+
   // draft/cpu_draft.cpp
-  // Gives all 36 teams their turn, from "Rank A" down. Stops at the user's until he has picked.
+  // Gives all 36 teams their turn, from "Rank A" down. Stops at the user's until the pick is made.
   void RunDraft();
 
   // draft/player_picks.cpp
-  void ConnectPicks();
-  // Puts RECORD back into the pool and empties it.
-  void AddDraftee(std::string& record);
   void PickFromPool(ListPair& list);
   void PressNewSeason();
 
-  // The lines of Events. RECORD is the player's.
-  void AddRetirement(const std::string& record);
-  void AddRelease(const std::string& record);
-  void AddPick(const std::string& record);
-
  private:
-  void TakeTurn(int team);
-  int FindRetirement();
-  std::string PartWithPlayer();
-  std::string ReleasePlayer();
-  void Refill(std::string_view training);
   void StartPlayerTurn();
-  void OpenPoolList(const std::string& position);
 
   Program& program_;
 };

@@ -84,7 +84,6 @@ class FResults : public Screen {
   std::array<bool, 5> crossed{};
 
   // draft/pool.cpp
-  void ConnectDraftButton();
   // Rolls the pool of 120 players and runs the draft. Returns when the draft is over.
   void PressDraft();
 

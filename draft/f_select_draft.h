@@ -17,7 +17,6 @@ class FSelectDraft : public Screen {
   ListBox List2{*this, "List2", Start::kNeverShown};        // the records behind them
 
   // draft/player_picks.cpp
-  void ConnectRelease();
   void ReleaseSelected();
 
  private:

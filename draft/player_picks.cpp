@@ -1,51 +1,30 @@
+#include "draft/retirement.h"
 #include "program/program.h"
 #include "records/lines/history_line.h"
 #include "records/lines/player_line.h"
 
 namespace frostmark {
+namespace {
 
-FSelectDraft::FSelectDraft(Program& program)
-    : Screen(program.screens, "FSelectDraft", "Select Player", Border::kNone, OnClose::kNothing),
-      program_(program) {}
-
-void FDraft::ConnectPicks() {
-  for (ListPair* list : Pool()) {
-    list->shown.OnDoubleClick = [this, list] { PickFromPool(*list); };
-  }
-  Command1.OnClick = [this] { PressNewSeason(); };
-  OnMouseDown = [this] { Ordvik::DragWindow(*this); };
-  XTab1.OnMouseDown = [this] { Ordvik::DragWindow(*this); };
+// The list of POSITION alone is open.
+void OpenPoolList(FDraft& draft, std::string_view position) {
+  draft.SetPoolEnabled(false);
+  if (ListPair* list = draft.Pool(position)) list->SetEnabled(true);
 }
 
-void FSelectDraft::ConnectRelease() {
-  List1.OnDoubleClick = [this] { ReleaseSelected(); };
-  OnMouseDown = [this] { Ordvik::DragWindow(*this); };
-  XTab1.OnMouseDown = [this] { Ordvik::DragWindow(*this); };
-}
+}  // namespace
 
-void FDraft::AddRetirement(const std::string& record) {
-  Events.AddItem(FormatRetirement(record, CurTeam.Caption()));
-}
-
-void FDraft::AddRelease(const std::string& record) {
-  Events.AddItem(FormatRelease(record, CurTeam.Caption()));
-}
-
-void FDraft::AddPick(const std::string& record) {
-  Events.AddItem(FormatPick(record, CurTeam.Caption()));
-}
-
-// On the user's side the leaver's Training is forgotten: his new man always comes as "N", and it is
-// for the user to see to his lines.
+// On the user's side the leaver's Training is forgotten: the new player always comes as "N", and
+// it is for the user to see to the lines.
 void FDraft::StartPlayerTurn() {
   FSelectDraft& choice = program_.f_select_draft;
   choice.List1.Clear();
   choice.List2.Clear();
-  const int retiring = FindRetirement();
+  const int retiring = RollRetirement(program_.ordvik, program_.desktop, tempList);
   if (retiring >= 0) {
     const std::string record = tempList.List(retiring);
-    AddRetirement(record);
-    OpenPoolList(HockeyNaming::GetField(record, "Position"));
+    Events.AddItem(FormatRetirement(record, CurTeam.Caption()));
+    OpenPoolList(*this, HockeyNaming::GetField(record, "Position"));
     tempList.RemoveItem(retiring);
     return;
   }
@@ -59,11 +38,6 @@ void FDraft::StartPlayerTurn() {
   choice.Show();
 }
 
-void FDraft::OpenPoolList(const std::string& position) {
-  SetPoolEnabled(false);
-  if (ListPair* list = Pool(position)) list->SetEnabled(true);
-}
-
 void FDraft::PickFromPool(ListPair& list) {
   if (!AwaitingPick) return;  // in the others' turns the lists are only for browsing
   const Answer answer = program_.desktop.ShowBox(
@@ -72,7 +46,7 @@ void FDraft::PickFromPool(ListPair& list) {
   if (answer != Answer::kYes) return;
   const int picked = list.shown.ListIndex();
   const std::string record = list.records.List(picked);
-  AddPick(record);
+  Events.AddItem(FormatPick(record, CurTeam.Caption()));
   tempList.AddItem(record);
   list.records.RemoveItem(picked);
   list.shown.RemoveItem(picked);
@@ -88,21 +62,11 @@ void FSelectDraft::ReleaseSelected() {
   if (answer != Answer::kYes) return;
   draft.tempList.RemoveItem(List1.ListIndex());
   draft.ReleasedPlayer = List2.List(List1.ListIndex());
-  draft.AddRelease(draft.ReleasedPlayer);
-  // He goes into the pool only after the pick, so the user can't take him back in the same turn.
+  draft.Events.AddItem(FormatRelease(draft.ReleasedPlayer, draft.CurTeam.Caption()));
+  // The player goes into the pool only after the pick, and can't be taken back in the same turn.
   const std::string position = HockeyNaming::GetField(draft.ReleasedPlayer, "Position");
   if (ListPair* list = draft.Pool(position)) list->SetEnabled(true);
   Hide();
-}
-
-void FDraft::AddDraftee(std::string& record) {
-  if (ListPair* list = Pool(FieldView(record, Field::kPosition))) {
-    list->records.AddItem(record);
-    list->shown.Clear();
-    HockeyNaming::SortByOverall(list->records);
-    ShowPoolLines(*list);
-  }
-  record.clear();
 }
 
 // The labels of the next opponent are left as they are: the user reads last season's news until the

@@ -23,14 +23,7 @@ class FStartGame : public Screen {
   Button HighButton1{*this, "HighButton1", "Begin"};
   Label Label2{*this, "Label2", "x", Called{"Back to the start screen"}};
 
-  // match/single_game.cpp
-  void ConnectSingleGame();
-  void PressBegin();
-
  private:
-  void ChooseLeague(const ListBox& leagues, FileListBox& teams);
-  void ChooseTeam(const FileListBox& teams, ListBox& roster);
-
   Program& program_;
 };
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "records/lines/play_line.h"
 #include "records/numbers.h"
@@ -18,6 +17,9 @@ class Program;
 class Game : public Screen {
  public:
   explicit Game(Program& program);
+
+  static constexpr int kStepsOfPeriod = 200;
+  static constexpr int kStepMs = 100;
 
   TabStrip XTab1{*this, "XTab1", {"Roster", "Game"}, Called{"Game"}};
 
@@ -42,12 +44,12 @@ class Game : public Screen {
   Label Label4{XTab1.Page(1), "Label4", "0", Called{"Goals of the visitor", "Goals"}};
   ListBox Events{XTab1.Page(1), "Events", Called{"Play-by-play"}};  // newest on top
   // The steps played in each.
-  ProgressBar Period1{XTab1.Page(1), "Period1", 200, Called{"Period 1", "Period 1"}};
-  ProgressBar Period2{XTab1.Page(1), "Period2", 200, Called{"Period 2", "Period 2"}};
-  ProgressBar Period3{XTab1.Page(1), "Period3", 200, Called{"Period 3", "Period 3"}};
-  Timer Timer1{*this, "Timer1", 100};
-  Timer Timer2{*this, "Timer2", 100};
-  Timer Timer3{*this, "Timer3", 100};
+  ProgressBar Period1{XTab1.Page(1), "Period1", kStepsOfPeriod, Called{"Period 1", "Period 1"}};
+  ProgressBar Period2{XTab1.Page(1), "Period2", kStepsOfPeriod, Called{"Period 2", "Period 2"}};
+  ProgressBar Period3{XTab1.Page(1), "Period3", kStepsOfPeriod, Called{"Period 3", "Period 3"}};
+  Timer Timer1{*this, "Timer1", kStepMs};
+  Timer Timer2{*this, "Timer2", kStepMs};
+  Timer Timer3{*this, "Timer3", kStepMs};
   Button HighButton1{XTab1.Page(1), "HighButton1", "Start"};
   Button HighButton2{XTab1.Page(1), "HighButton2", "Close", Start::kHidden};
   Label Label5{XTab1.Page(1), "Label5", "x", Called{"Abandon the game"}};
@@ -86,7 +88,6 @@ class Game : public Screen {
   const Label& Goals(int team) const { return team == 1 ? Label3 : Label4; }
 
   // match/watched_periods.cpp
-  void ConnectPeriods();
   void PressStart();
   void TickPeriod1();
   void TickPeriod2();
@@ -96,9 +97,7 @@ class Game : public Screen {
 
  private:
   // match/watched_periods.cpp
-  void TickEarlyPeriod(ProgressBar& period, Timer& timer, Play end);
   void AnnounceResult();
-  void ShowOwnResult();
 
   // match/watched.cpp
   void LoadIceLists();
@@ -106,14 +105,7 @@ class Game : public Screen {
   void OutletStep();
   void ShotStep();
   void FaceOff();
-  std::string FindCentre(const RecordList& line);
-  void NotePasser();
-  void PassAlong(Play pass);
-  void MeetDefender(std::string_view position, Int16& defense);
-  void Goal();
   void TurnOver(Play how);
-  // Puts LINE on top of the play-by-play.
-  void Report(const PlayLine& line);
 
   Program& program_;
 };

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <string>
-#include <string_view>
 
 #include "records/numbers.h"
 #include "records/record_list.h"
@@ -28,6 +27,7 @@ class GameSimulation {
   Int16 GoalsTeam1;
   Int16 GoalsTeam2;
 
+  // match/unwatched.cpp
   // Copies the players of LIST1 and LIST2 with Training "N" to Line1Stats and Line2Stats.
   void LoadGameLines(const RecordList& list1, const RecordList& list2);
   // Plays the game of the two lines and leaves its goals in the Franchise screen's scores. Throws
@@ -40,10 +40,6 @@ class GameSimulation {
   void OutletStep();
   void ShotStep();
   void FaceOff();
-  void FindPlayer(const RecordList& line, std::string_view position, std::string& found);
-  void NotePasser();
-  void PassAlong();
-  void MeetDefender(std::string_view position, Int16& defense);
   void TurnOver();
 
   Program& program_;

@@ -1,16 +1,14 @@
 #include <utility>
 
-#include "match/game_simulation.h"
+#include "match/chances.h"
 #include "program/program.h"
 #include "records/pair_search.h"
 
 namespace frostmark {
 namespace {
 
-constexpr int kStepsOfGame = 600;
-constexpr int kFaceOffDue = -2;
-constexpr int kOutletDue = -1;
-constexpr int kShotDue = 0;
+constexpr int kPeriods = 3;
+constexpr int kStepsOfGame = kPeriods * Game::kStepsOfPeriod;
 
 // Positions are looked for in the whole record, so a name with the two capitals in it counts too.
 bool Plays(const std::string& record, std::string_view position) {
@@ -27,6 +25,52 @@ void CopyLeadLine(UiQueue& queue, const RecordList& roster, RecordList& line) {
   for (int i = 0; i < count; ++i) {
     if (FieldView(roster.List(i), Field::kTraining) == "N") line.AddItemOf(roster, i);
     queue.Yield();
+  }
+}
+
+// Puts the record of the last player of LINE at POSITION into FOUND, if there is one: the first in
+// the team's own order, since the lists on the ice are reversed.
+void FindPlayer(UiQueue& queue, const RecordList& line, std::string_view position,
+                std::string& found) {
+  const int count = line.ListCount();
+  for (int i = 0; i < count; ++i) {
+    if (Plays(line.List(i), position)) found = line.List(i);
+    queue.Yield();
+  }
+}
+
+void NotePasser(Program& program) {
+  GameSimulation& game = program.game_simulation;
+  const RecordList& line = program.franchise.LineList;
+  const int count = line.ListCount();
+  for (int i = 0; i < count; ++i) {
+    if (Plays(line.List(i), game.PuckPosition)) {
+      game.PasserName = FieldView(game.PuckCarrier, Field::kName);
+    }
+    program.desktop.Yield();
+  }
+}
+
+void PassAlong(Program& program) {
+  GameSimulation& game = program.game_simulation;
+  const RecordList& line = program.franchise.LineList;
+  const int count = line.ListCount();
+  for (int i = 0; i < count; ++i) {
+    if (Plays(line.List(i), game.PuckPosition)) game.PuckCarrier = line.List(i);
+    program.desktop.Yield();
+  }
+}
+
+void MeetDefender(Program& program, std::string_view position, Int16& defense) {
+  GameSimulation& game = program.game_simulation;
+  const RecordList& line = program.franchise.DefList;
+  const int count = line.ListCount();
+  for (int i = 0; i < count; ++i) {
+    if (Plays(line.List(i), position)) {
+      game.Defender = line.List(i);
+      defense = Rating(game.Defender, Field::kDefense);
+    }
+    program.desktop.Yield();
   }
 }
 
@@ -76,54 +120,13 @@ void GameSimulation::PlayStep() {
   if (PassesLeft == kFaceOffDue) return FaceOff();
   if (PassesLeft == kOutletDue) return OutletStep();
   if (PassesLeft == kShotDue) return ShotStep();
-  const int side = program_.ordvik.RollUpTo(2);
+  const int side = program_.ordvik.RollUpTo(kToss);
   // The pass is finished all the same, so one of the new face-off's passes is gone with it.
   if (PuckCarrier.empty()) FaceOff();
-  NotePasser();
-  if (PuckPosition == "RF") {
-    PuckPosition = side == 1 ? "CF" : "LF";
-  } else if (PuckPosition == "CF") {
-    PuckPosition = side == 1 ? "RF" : "LF";
-  } else if (PuckPosition == "LF") {
-    PuckPosition = side == 1 ? "CF" : "RF";
-  } else {
-    const int forward = program_.ordvik.RollUpTo(3);
-    // Before the first outlet pass of a run there is no position, and this roll counts for nothing.
-    if (PuckPosition == "RD" || PuckPosition == "LD") {
-      PuckPosition = forward == 1 ? "LF" : forward == 2 ? "CF" : "RF";
-    }
-  }
-  PassAlong();
+  NotePasser(program_);
+  AimPass(program_.ordvik, side, PuckPosition);
+  PassAlong(program_);
   PassesLeft -= 1;
-}
-
-void GameSimulation::NotePasser() {
-  const RecordList& line = program_.franchise.LineList;
-  const int count = line.ListCount();
-  for (int i = 0; i < count; ++i) {
-    if (Plays(line.List(i), PuckPosition)) PasserName = FieldView(PuckCarrier, Field::kName);
-    program_.desktop.Yield();
-  }
-}
-
-// Of several players at the position the last one gets the puck: the first of the team's own order.
-void GameSimulation::PassAlong() {
-  const RecordList& line = program_.franchise.LineList;
-  const int count = line.ListCount();
-  for (int i = 0; i < count; ++i) {
-    if (Plays(line.List(i), PuckPosition)) PuckCarrier = line.List(i);
-    program_.desktop.Yield();
-  }
-}
-
-// Puts the record of the last player of LINE at POSITION into FOUND, if there is one.
-void GameSimulation::FindPlayer(const RecordList& line, std::string_view position,
-                                std::string& found) {
-  const int count = line.ListCount();
-  for (int i = 0; i < count; ++i) {
-    if (Plays(line.List(i), position)) found = line.List(i);
-    program_.desktop.Yield();
-  }
 }
 
 void GameSimulation::FaceOff() {
@@ -134,44 +137,27 @@ void GameSimulation::FaceOff() {
   std::string centre2 = std::exchange(spare_centres_[1], {});
   centre1.clear();
   centre2.clear();
-  FindPlayer(line1, "CF", centre1);
-  FindPlayer(line2, "CF", centre2);
+  FindPlayer(program_.desktop, line1, "CF", centre1);
+  FindPlayer(program_.desktop, line2, "CF", centre2);
   // A line without a centre sends its right forward; one without either sends nobody.
-  if (centre1.empty()) FindPlayer(line1, "RF", centre1);
-  if (centre2.empty()) FindPlayer(line2, "RF", centre2);
-  const bool first_wins = program_.ordvik.RollUpTo(2) == 1;
+  if (centre1.empty()) FindPlayer(program_.desktop, line1, "RF", centre1);
+  if (centre2.empty()) FindPlayer(program_.desktop, line2, "RF", centre2);
+  const bool first_wins = program_.ordvik.RollUpTo(kToss) == 1;
   PuckCarrier = first_wins ? centre1 : centre2;
   spare_centres_[0] = std::move(centre1);
   spare_centres_[1] = std::move(centre2);
   PuckTeam = first_wins ? 1 : 2;
   LoadIceLists();
   // PuckPosition stays on purpose: the first pass starts from where play last stood.
-  PassesLeft = program_.ordvik.RollUpTo(6);
+  PassesLeft = program_.ordvik.RollUpTo(kFaceOffPassesDie);
 }
 
 void GameSimulation::OutletStep() {
   LoadIceLists();
-  NotePasser();
-  if (Plays(Defender, "GO")) {
-    PuckPosition = program_.ordvik.RollUpTo(2) == 1 ? "RD" : "LD";
-  } else {
-    const int forward = program_.ordvik.RollUpTo(3);
-    PuckPosition = forward == 1 ? "RF" : forward == 2 ? "CF" : "LF";
-  }
-  PassAlong();
-  PassesLeft = program_.ordvik.RollUpTo(4);
-}
-
-void GameSimulation::MeetDefender(std::string_view position, Int16& defense) {
-  const RecordList& line = program_.franchise.DefList;
-  const int count = line.ListCount();
-  for (int i = 0; i < count; ++i) {
-    if (Plays(line.List(i), position)) {
-      Defender = line.List(i);
-      defense = Rating(Defender, Field::kDefense);
-    }
-    program_.desktop.Yield();
-  }
+  NotePasser(program_);
+  AimOutletPass(program_.ordvik, Plays(Defender, "GO"), PuckPosition);
+  PassAlong(program_);
+  PassesLeft = program_.ordvik.RollUpTo(kOutletPassesDie);
 }
 
 // A shot that misses, or that the goalie lets slip away without a save, changes nothing: the same
@@ -181,21 +167,21 @@ void GameSimulation::ShotStep() {
   LoadIceLists();
   Int16 defense = 0;
   Int16 shooting = 0;
-  const char* const side = ordvik.RollUpTo(2) == 1 ? "RD" : "LD";
+  const char* const side = RollDefender(ordvik);
   DefenderPosition = side;
-  MeetDefender(side, defense);
-  const int shot = ordvik.RollUpTo(100);
+  MeetDefender(program_, side, defense);
+  const int shot = ordvik.RollUpTo(kShotDie);
   if (PuckCarrier.empty()) {
     FaceOff();
   } else {
     shooting = Rating(PuckCarrier, Field::kShooting);
   }
   if (shot > shooting) return;
-  if (ordvik.RollUpTo(110) <= defense) return TurnOver();
-  ordvik.RollUpTo(100);  // the puck on its way to the goalie: rolled, and used by nothing
-  MeetDefender("GO", defense);
-  if (ordvik.RollUpTo(100) > defense) return;
-  if (ordvik.RollUpTo(105) <= defense) return TurnOver();
+  if (ordvik.RollUpTo(kStealDie) <= defense) return TurnOver();
+  ordvik.RollUpTo(kFlightDie);
+  MeetDefender(program_, "GO", defense);
+  if (ordvik.RollUpTo(kSlipDie) > defense) return;
+  if (ordvik.RollUpTo(kSaveDie) <= defense) return TurnOver();
   if (PuckTeam == 1) GoalsTeam1 += 1;
   if (PuckTeam == 2) GoalsTeam2 += 1;
   PassesLeft = kFaceOffDue;

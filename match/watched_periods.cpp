@@ -1,23 +1,41 @@
-#include "match/game.h"
 #include "program/program.h"
+#include "records/lines/play_line.h"
 
 namespace frostmark {
+namespace {
 
-Game::Game(Program& program)
-    : Screen(program.screens, "Game", "Form3", Border::kNone, OnClose::kEndsProgram,
-             Called{"Game"}),
-      program_(program) {}
-
-void Game::ConnectPeriods() {
-  HighButton1.OnClick = [this] { PressStart(); };
-  HighButton2.OnClick = [this] { PressClose(); };
-  Label5.OnClick = [this] { Abandon(); };
-  Timer1.OnTick = [this] { TickPeriod1(); };
-  Timer2.OnTick = [this] { TickPeriod2(); };
-  Timer3.OnTick = [this] { TickPeriod3(); };
-  OnMouseDown = [this] { Ordvik::DragWindow(*this); };
-  XTab1.OnMouseDown = [this] { Ordvik::DragWindow(*this); };
+// True when the period is over: its timer stands and BUTTON goes on from here.
+bool IsOver(const ProgressBar& period, Timer& timer, Button& button) {
+  if (period.Value() != period.Max()) return false;
+  button.Show();
+  timer.Disable();
+  return true;
 }
+
+// The line is written at every tick on purpose, at the bottom, out of sight under the play-by-play
+// that grows from the top.
+void CountEarlyStep(Game& game, ProgressBar& period, Play end) {
+  game.Events.AddItem(FormatPlayLine({end}));
+  period.SetValue(period.Value() + 1);
+}
+
+// As texts, like the announcer. PlayGame, which has waited for this, soon writes the result again
+// from the numbers.
+void ShowOwnResult(Game& game, Franchise& franchise) {
+  const std::string& home = game.Goals(1).Caption();
+  const std::string& visitor = game.Goals(2).Caption();
+  const std::string& user = franchise.TeamName.Caption();
+  Label& result = franchise.LooseOrWin;
+  if (game.GHome.Caption() == user) {
+    result.SetCaption((home > visitor ? "You won " : "You lost ") + home + " - " + visitor);
+  }
+  if (game.GVisitor.Caption() == user) {
+    result.SetCaption((home < visitor ? "You won " : "You lost ") + visitor + " - " + home);
+  }
+  if (home == visitor) result.SetCaption("You tied at " + visitor);
+}
+
+}  // namespace
 
 void Game::PressStart() {
   const int full = Period1.Max();
@@ -29,30 +47,20 @@ void Game::PressStart() {
   FaceOff();
 }
 
-void Game::TickPeriod1() { TickEarlyPeriod(Period1, Timer1, Play::kFirstPeriod); }
+void Game::TickPeriod1() {
+  if (IsOver(Period1, Timer1, HighButton1)) return;
+  CountEarlyStep(*this, Period1, Play::kFirstPeriod);
+  PlayStep();
+}
 
-void Game::TickPeriod2() { TickEarlyPeriod(Period2, Timer2, Play::kSecondPeriod); }
-
-// The line is written at every tick on purpose, at the bottom, out of sight under the play-by-play
-// that grows from the top.
-void Game::TickEarlyPeriod(ProgressBar& period, Timer& timer, Play end) {
-  if (period.Value() == period.Max()) {
-    HighButton1.Show();
-    timer.Disable();
-    return;
-  }
-  Events.AddItem(FormatPlayLine({end}));
-  period.SetValue(period.Value() + 1);
+void Game::TickPeriod2() {
+  if (IsOver(Period2, Timer2, HighButton1)) return;
+  CountEarlyStep(*this, Period2, Play::kSecondPeriod);
   PlayStep();
 }
 
 void Game::TickPeriod3() {
-  if (Period3.Value() == Period3.Max()) {
-    HighButton2.Show();
-    Timer3.Disable();
-    AnnounceResult();
-    return;
-  }
+  if (IsOver(Period3, Timer3, HighButton2)) return AnnounceResult();
   Period3.SetValue(Period3.Value() + 1);
   PlayStep();
 }
@@ -62,13 +70,14 @@ void Game::TickPeriod3() {
 void Game::AnnounceResult() {
   const std::string home = Goals(1).Caption();
   const std::string visitor = Goals(2).Caption();
-  Report({Play::kMatchEnd});
+  const auto report = [this](const PlayLine& line) { Events.AddItem(FormatPlayLine(line), 0); };
+  report({Play::kMatchEnd});
   if (home > visitor) {
-    Report({Play::kWin, GHome.Caption(), GVisitor.Caption(), home, visitor});
+    report({Play::kWin, GHome.Caption(), GVisitor.Caption(), home, visitor});
   } else if (visitor > home) {
-    Report({Play::kWin, GVisitor.Caption(), GHome.Caption(), visitor, home});
+    report({Play::kWin, GVisitor.Caption(), GHome.Caption(), visitor, home});
   } else {
-    Report({Play::kTie, GHome.Caption(), GVisitor.Caption(), home});
+    report({Play::kTie, GHome.Caption(), GVisitor.Caption(), home});
   }
 }
 
@@ -80,26 +89,10 @@ void Game::PressClose() {
   }
   program_.franchise.Score1 = StrictInt16(Goals(1).Caption());
   program_.franchise.Score2 = StrictInt16(Goals(2).Caption());
-  ShowOwnResult();
+  ShowOwnResult(*this, program_.franchise);
   FranchiseMatch = false;
   program_.franchise.Show();
   Hide();
-}
-
-// As texts again. PlayGame, which has waited for this, soon writes the result anew from the
-// numbers.
-void Game::ShowOwnResult() {
-  const std::string& home = Goals(1).Caption();
-  const std::string& visitor = Goals(2).Caption();
-  const std::string& user = program_.franchise.TeamName.Caption();
-  Label& result = program_.franchise.LooseOrWin;
-  if (GHome.Caption() == user) {
-    result.SetCaption((home > visitor ? "You won " : "You lost ") + home + " - " + visitor);
-  }
-  if (GVisitor.Caption() == user) {
-    result.SetCaption((home < visitor ? "You won " : "You lost ") + visitor + " - " + home);
-  }
-  if (home == visitor) result.SetCaption("You tied at " + visitor);
 }
 
 // Leaves FranchiseMatch as it is: a franchise game goes on waiting under the start screen until

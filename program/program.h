@@ -10,10 +10,10 @@
 #include "match/game_simulation.h"
 #include "records/hockey_naming.h"
 #include "records/ordvik.h"
+#include "records/under_way.h"
 #include "shell/f_player.h"
 #include "shell/franchise.h"
 #include "shell/startup.h"
-#include "shell/under_way.h"
 #include "ui/desktop.h"
 #include "world/team_creator.h"
 
@@ -30,6 +30,13 @@ class Program {
 
   // Shows the start screen. Nothing else happens until the user acts, and no file is looked at.
   void Start();
+
+  // program/cut_off_work.cpp
+  // Finishes what a program that was cut off has left half done: the moves of a season's end, and a
+  // save. False when that was not possible; what is on the disk is then not fit to be played.
+  bool FinishCutOffWork();
+  // Forgets such moves: their teams are gone.
+  void ForgetCutOffMoves();
 
   Desktop& desktop;
   ScreenList screens;

@@ -2,12 +2,8 @@
 
 namespace frostmark {
 
-Ordvik::Ordvik(Program& program, UiQueue& queue, Dice& dice, std::string app_path)
-    : program_(program),
-      queue_(queue),
-      dice_(dice),
-      app_path_(std::move(app_path)),
-      files_(app_path_ + "/Settings") {}
+Ordvik::Ordvik(UiQueue& queue, Dice& dice, std::string app_path)
+    : queue_(queue), dice_(dice), app_path_(std::move(app_path)), files_(app_path_ + "/Settings") {}
 
 int Ordvik::RollUpTo(int n) {
   ++counts_.rolls;

@@ -54,26 +54,28 @@ class HockeyNaming {
   // Gives the better of two players at a position "N" (lead line) and the other "Y" (training).
   void SetTrainingFlags(RecordList& list);
 
-  // world/player_generation.cpp
+  // count_result.cpp
+  // LINE with one more win ("Win"), loss ("Lose") or tie ("Tie"); "" for any other KIND. Throws
+  // RuntimeError when LINE has no record in brackets.
+  static std::string CountResult(std::string_view line, std::string_view kind);
+
+  // new_player.cpp
   // Rolls the skills and the age of a new player of POSITION into the Cur... variables. Skills are
   // 70 to 99, with WEAKER 65 to 94; the age is 18 to 24.
   void GenPlayerRatings(std::string_view position, bool weaker);
-  // Rolls a given name and a family name from the name lists: James Smith.
-  std::string GenPlayerName();
   // The record of a player called NAME with the ratings rolled last.
   std::string GeneratedRecord(std::string_view name, std::string_view position,
                               std::string_view training) const;
+
+  // world/player_names.cpp
+  // Rolls a given name and a family name from the name lists: James Smith.
+  std::string GenPlayerName();
 
   // match/watched_set_up.cpp
   // Prepares the Game screen for LIST1 (home) against LIST2 (visitor) and shows it. Callers set its
   // FranchiseMatch first.
   void SetUpMatch(const RecordList& list1, const std::string& name1, const RecordList& list2,
                   const std::string& name2);
-
-  // match/results.cpp
-  // LINE with one more win ("Win"), loss ("Lose") or tie ("Tie"); "" for any other KIND. Throws
-  // RuntimeError when LINE has no record in brackets.
-  static std::string CountResult(std::string_view line, std::string_view kind);
 
  private:
   Ratings CurRatings() const;

@@ -14,7 +14,6 @@
 
 namespace frostmark {
 
-class Program;
 class Screen;
 
 // The utility module: chance, text search, waiting, and all reading and writing of files. No file
@@ -23,7 +22,7 @@ class Ordvik {
  public:
   // APP_PATH is the program's folder, without a separator at its end. It holds "Teams" and
   // "Settings"; neither is ever created here.
-  Ordvik(Program& program, UiQueue& queue, Dice& dice, std::string app_path);
+  Ordvik(UiQueue& queue, Dice& dice, std::string app_path);
 
   // general.cpp
   // A whole number from 1 to N. The generator is seeded anew from the clock at every call.
@@ -84,12 +83,12 @@ class Ordvik {
   // How files reach the disk, for what lies below the operations of the game.
   FileStore& files() { return files_; }
 
-  // draft/cpu_draft.cpp
+  // wait_seconds.cpp
   // Waits until the clock has moved on by SECONDS, a number as text. A wait that spans midnight
   // lasts until the same time of the next day: the clock counts from midnight.
   void WaitSeconds(const std::string& seconds);
 
-  // shell/start_screen.cpp
+  // ui/screen.cpp
   // Lets the user drag FORM, as by its title bar. Called when the mouse goes down on it.
   static void DragWindow(Screen& form);
 
@@ -104,7 +103,6 @@ class Ordvik {
  private:
   std::string LinesOf(const RecordList& list);
 
-  Program& program_;
   UiQueue& queue_;
   Dice& dice_;
   std::string app_path_;

@@ -8,7 +8,7 @@
 namespace frostmark {
 namespace {
 
-constexpr double kBestSkill = 99;
+constexpr int kBestSkill = 99;
 
 // At least nine; a record with a quoted field that holds a comma has more, and keeps them.
 using Parts = std::vector<std::string>;
@@ -82,7 +82,9 @@ std::string HockeyNaming::SetField(std::string_view record, std::string_view fie
       break;
   }
   for (const Field skill : {Field::kPassing, Field::kShooting, Field::kDefense, Field::kAgility}) {
-    if (LenientNumber(Part(parts, skill)) > kBestSkill) Part(parts, skill) = "99";
+    if (LenientNumber(Part(parts, skill)) > kBestSkill) {
+      Part(parts, skill) = std::to_string(kBestSkill);
+    }
   }
   CurName = Part(parts, Field::kName);
   CurPosition = Part(parts, Field::kPosition);

@@ -22,6 +22,9 @@ class UiQueue {
 
   // The same, but returns no later than AT_MOST from now.
   virtual void WaitFor(std::chrono::microseconds at_most) = 0;
+
+  // The clock that waits go by: time since midnight.
+  virtual std::chrono::microseconds SinceMidnight() = 0;
 };
 
 }  // namespace frostmark

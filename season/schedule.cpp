@@ -6,6 +6,7 @@
 #include "season/week_table.h"
 
 namespace frostmark {
+
 void Franchise::GenSchedule() {
   NextWeek.SetCaption("Week 1");
   for (std::size_t league = 0; league < kRanks.size(); ++league) {

@@ -1,11 +1,14 @@
 #include <cmath>
 
 #include "program/program.h"
+#include "season/week_table.h"
 
 namespace frostmark {
 namespace {
 
 constexpr std::string_view kWeekPrefix = "Week ";
+// Beyond it no week is left to simulate.
+constexpr int kWeekAfterSeason = kWeeksOfSeason + 1;
 
 std::string WithoutPrefix(std::string text) {
   for (std::size_t at = text.find(kWeekPrefix); at != std::string::npos;
@@ -16,11 +19,6 @@ std::string WithoutPrefix(std::string text) {
 }
 
 }  // namespace
-
-void Franchise::ConnectSimRun() {
-  Command2.OnClick = [this] { PressSim(); };
-  Command5.OnClick = [this] { Command5.Hide(); };
-}
 
 void Franchise::PressSim() {
   const auto refuse = [this](const char* text) {
@@ -36,7 +34,7 @@ void Franchise::PressSim() {
   if (target <= current) return refuse("You must select a week greater than your current!");
   // It is the current week that is looked at and not the target, so this never comes up in a
   // season: a target beyond the schedule plays on through the off-season.
-  if (current > 11) return refuse("You can't simulate beyond the currect schedule!");
+  if (current > kWeekAfterSeason) return refuse("You can't simulate beyond the currect schedule!");
 
   const std::string target_marker = std::string(kWeekPrefix) + WholeNumberText(target);
   SimRunning = true;

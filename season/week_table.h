@@ -15,11 +15,13 @@ struct Fixture {
 
 using FixturesOfWeek = std::array<Fixture, 3>;
 
-inline constexpr int kWeeksOfSeason = 10;
+// Every pair of a league meets once in a round, and a season has two rounds.
+inline constexpr int kWeeksOfRound = 5;
+inline constexpr int kWeeksOfSeason = 2 * kWeeksOfRound;
 
 // The fixed schedule of every league and season. Five weeks play each of the fifteen pairs once;
 // the next five repeat them, with the same side at home.
-inline constexpr std::array<FixturesOfWeek, 5> kWeekTable = {{
+inline constexpr std::array<FixturesOfWeek, kWeeksOfRound> kWeekTable = {{
     {{{2, 1}, {3, 0}, {4, 5}}},
     {{{3, 4}, {0, 1}, {2, 5}}},
     {{{0, 4}, {2, 3}, {1, 5}}},
@@ -41,7 +43,7 @@ constexpr std::optional<int> WeekOf(std::string_view marker) {
 
 // The games of WEEK (1 to 10), in the order in which each league plays them.
 constexpr const FixturesOfWeek& FixturesOf(int week) {
-  return kWeekTable[static_cast<std::size_t>((week - 1) % 5)];
+  return kWeekTable[static_cast<std::size_t>((week - 1) % kWeeksOfRound)];
 }
 
 }  // namespace frostmark

@@ -27,9 +27,6 @@ class FPlayer : public Screen {
   Label Label2{*this, "Label2", "Age:"};
   Label Label1{*this, "Label1", "", Called{"Age"}};
   Label Label5{*this, "Label5", "\u00D7", Called{"Close the player"}};
-
-  // roster.cpp
-  void ConnectPlayerPopup();
 };
 
 }  // namespace frostmark

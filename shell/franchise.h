@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 
+#include "records/leagues.h"
 #include "records/numbers.h"
 #include "ui/controls.h"
 #include "ui/screen.h"
@@ -11,15 +12,11 @@ namespace frostmark {
 
 class Program;
 
-// The user's desk during a franchise, and the owner of the running game: its lists and labels are
-// the state of the season.
+// The user's desk during a franchise. Its lists and labels are the state of the season.
 class Franchise : public Screen {
  public:
   explicit Franchise(Program& program);
-
   TabStrip XTab1{*this, "XTab1", {"Main", "Alerts", "Standings", "Roster"}, Called{"Franchise"}};
-
-  // Tab "Main".
   Label Label3{XTab1.Page(0), "Label3", "Your Team:"};
   Label TeamName{XTab1.Page(0), "TeamName", "", Called{"Your team"}};
   Label Label20{XTab1.Page(0), "Label20", "Your Rank:"};
@@ -56,14 +53,9 @@ class Franchise : public Screen {
   Button Command5{XTab1.Page(0), "Command5", "Cancel", Start::kHidden};
   Button Command6{XTab1.Page(0), "Command6", "Min", Called{"Minimize"}};
 
-  // Tab "Alerts": the news, newest first.
+  // Tabs "Alerts", newest first, and "Standings".
   ListBox Alerts{XTab1.Page(1), "Alerts", Called{"News"}};
-
-  // Tab "Standings": one list of standings lines a league.
-  TabStrip XTab2{XTab1.Page(2),
-                 "XTab2",
-                 {"Rank F", "Rank E", "Rank D", "Rank C", "Rank B", "Rank A"},
-                 Called{"Leagues"}};
+  TabStrip XTab2{XTab1.Page(2), "XTab2", {kRanks.begin(), kRanks.end()}, Called{"Leagues"}};
   ListBox StatRankF{XTab2.Page(0), "StatRankF", Called{"Standings of Rank F", "Rank F:"}};
   ListBox StatRankE{XTab2.Page(1), "StatRankE", Called{"Standings of Rank E", "Rank E:"}};
   ListBox StatRankD{XTab2.Page(2), "StatRankD", Called{"Standings of Rank D", "Rank D:"}};
@@ -83,10 +75,9 @@ class Franchise : public Screen {
   ListBox MainList{*this, "MainList", Start::kNeverShown};
   ListBox TrainList{*this, "TrainList", Start::kNeverShown};
 
-  // Working lists, to the right of the tabs.
   Label Label1{*this, "Label1", "      F           E           D          C          B           A",
                Start::kOutside};
-  // The names of a league's teams in folder order. An index is the team's schedule position.
+  // Working lists. A league's names in folder order: the index is a team's schedule position.
   ListBox RankF{*this, "RankF", Start::kNeverShown};
   ListBox RankE{*this, "RankE", Start::kNeverShown};
   ListBox RankD{*this, "RankD", Start::kNeverShown};
@@ -103,102 +94,56 @@ class Franchise : public Screen {
   FileListBox File1{*this, "File1", Start::kNeverShown};
   Button Command1{*this, "Command1", "Testing", Start::kOutside};  // a developer's shortcut
 
-  // The goals of the game just played.
-  Int16 Score1;
+  Int16 Score1;  // the goals of the game just played
   Int16 Score2;
-  // True while a Sim run is under way: the user's own games are then not watched.
-  bool SimRunning = false;
+  bool SimRunning = false;  // a Sim run is under way: the user's own games are not watched
 
-  // The league lists, from the bottom of the ladder (0 is "Rank F") to its top, as in kRanks.
-  std::array<ListBox*, 6> RankLists() { return {&RankF, &RankE, &RankD, &RankC, &RankB, &RankA}; }
-  std::array<ListBox*, 6> StatRankLists() {
-    return {&StatRankF, &StatRankE, &StatRankD, &StatRankC, &StatRankB, &StatRankA};
-  }
-
-  // shell/roster.cpp
-  void ConnectRoster();
+  // shell/franchise.cpp: the lists of the leagues in the order of kRanks.
+  std::array<ListBox*, kRankCount> RankLists();
+  std::array<ListBox*, kRankCount> StatRankLists();
+  // shell/roster.cpp: the arrows and the double clicks.
   void PressToTraining();
   void PressToLeadLine();
   void ShowLeadPlayer();
   void ShowTrainingPlayer();
-
   // shell/roster_lists.cpp
-  // The user's team file: the folder named by MyRank, the file named by TeamName.
-  std::string UserTeamPath() const;
-  // Adds RECORD and its display line to the lead line (Training "N") or the training line ("Y"),
-  // and to neither for any other Training.
+  std::string UserTeamPath() const;  // the file of TeamName in the folder of MyRank
+  // Adds RECORD, or each of LIST with a yield after it, to the line of its Training, "N" or "Y".
   void AddToRoster(const std::string& record);
-  // AddToRoster for every record of LIST, yielding after each.
   void AddAllToRoster(const RecordList& list);
   void ClearRoster();
-  // Writes the captions of the user's ratings from the team rated last.
-  void ShowOwnRatings();
-
-  // shell/save_and_resume.cpp
-  void ConnectSaveAndClose();
-  // Writes settings, the user's roster, standings and alerts, then says so.
+  void ShowOwnRatings();  // as captions: those of the team rated last
+  // shell/save_and_resume.cpp: writes settings, roster, standings and alerts, then says so.
   void SaveGame();
-  void PressClose();
 
   // season/schedule.cpp
-  // Fills the league lists and the standings from the folders and sets "Week 1".
-  void GenSchedule();
-  // Shows the user's opponent of NextWeek and his ratings.
-  void GetNextWeek();
-  // Shows the opponent and loads his roster into tempList if NAME1 or NAME2 is the user's team. An
-  // opponent without a name leaves both empty. RANK is a league's letter, "F" to "A".
+  void GenSchedule();  // fills league lists and standings from the folders and sets "Week 1"
+  void GetNextWeek();  // shows the opponent of NextWeek
+  // Shows the other team and loads its roster into tempList if NAME1 or NAME2 is the user's team;
+  // a nameless one leaves both empty. RANK, here and below, is a league's letter, "F" to "A".
   void FindOpponent(const std::string& name1, const std::string& name2, const std::string& rank);
-
   // season/league_lists.cpp
-  // Rebuilds the league lists from the folders, resets all records and finds the user's league.
-  void LoadNewTeams();
-  // Rebuilds the lists of names only and shows the next opponent. Nothing calls it.
-  void LoadNewTeamsTwo();
-
-  // season/week_loop.cpp
-  void ConnectWeekLoop();
-  // Plays the week of NextWeek, or ends the season at "Off Season".
+  void LoadNewTeams();     // reads league lists and fresh standings, finds the user's league
+  void LoadNewTeamsTwo();  // the names alone, then the next opponent; nothing calls it
+  // season/week_loop.cpp: plays the week of NextWeek, or ends the season at "Off Season".
   void PressBegin();
-  // Nothing: the week is played by PressBegin.
-  void PlayWeek() {}
-
-  // season/sim_run.cpp
-  void ConnectSimRun();
+  void PlayWeek() {}  // nothing: PressBegin plays the week
+  // season/sim_run.cpp: plays on until the week that the user asks for.
   void PressSim();
 
-  // match/results.cpp
-  // Plays the game of NAME1 (home) against NAME2 in the league of the letter RANK ("F" to "A") and
-  // takes all its consequences. A game of the user's own is watched unless SimRunning, and this
-  // returns when it is over.
+  // match/results.cpp: plays NAME1 (home) against NAME2, with all consequences. A game of the
+  // user's own is watched unless SimRunning, and this returns when it is over.
   void PlayGame(const std::string& name1, const std::string& name2, const std::string& rank);
   // Counts Score1 and Score2 into the lines of LIST that contain the names.
   void SetStandings(RecordList& list, const std::string& name1, const std::string& name2);
-  // Thins out Alerts behind its 26th line.
-  void TrimAlerts();
+  void TrimAlerts();  // thins them out after the 26th line
 
-  // development/training.cpp
-  // What a game does to the players of LIST, which is then written to PATH, the team's file.
+  // development/training.cpp: what a game does to the players of LIST, saved to PATH, their file.
   void TrainThem(RecordList& list, const std::string& path);
-
-  // development/promotion.cpp
-  // Ends the season: moves the first and the last of the leagues, fills FResults and shows it.
+  // development/promotion.cpp: moves the first and the last of the leagues, then shows FResults.
   void theOffSeason();
 
  private:
-  bool LineUpAccepted();
-  void SetButtonsEnabled(bool enabled);
-  void PlayGamesOfWeek(int week);
-  void ReadRoster();
-  void TickSimulating();
-  void SaveRoster();
-  void ShowPlayer(int name_of, int numbers_of);
-  void WatchGame(const std::string& name1, const std::string& name2);
-  bool IsUsers(const std::string& name1, const std::string& name2) const;
-  void SimulateUnwatched();
-  void ShowOwnResult(const std::string& name1, const std::string& name2);
-  void AddAlert(const std::string& name1, const std::string& name2);
-  void Develop(RecordList& list, int i, const char* skill);
-
   Program& program_;
 };
 

@@ -1,27 +1,19 @@
 #include "program/program.h"
+#include "records/leagues.h"
 #include "records/lines/player_line.h"
 
 namespace frostmark {
 
-void Startup::ConnectNewFranchise() {
-  HighButton4.OnClick = [this] { PressNew(); };
-  HighButton7.OnClick = [this] { PressGenerate(); };
-  HighButton6.OnClick = [this] { PressBegin(); };
-  Label3.OnClick = [this] { Frame1.Hide(); };
-  Label12.OnClick = [this] { ClickWantedOverall(); };
-}
-
 void Startup::PressNew() {
   // A league of six is the only sign of a running game: a world without a user's team has five.
   // Where a build or a beginning was cut off there is none, whatever the folder holds.
-  constexpr int kTeamsOfRunningGame = 6;
   if (!program_.ordvik.KeepsToItsFolder()) return;
-  (void)FinishCutOffWork(program_.ordvik);
+  (void)program_.FinishCutOffWork();
   const bool cut_off = program_.under_way.IsCutOff();
   File1.SetPath(program_.ordvik.RankFolder("Rank F"));
   if (cut_off) {
     BuildLeague();
-  } else if (File1.ListCount() == kTeamsOfRunningGame) {
+  } else if (File1.ListCount() == kTeamsInLeague) {
     const Answer answer = program_.desktop.ShowBox(
         {BoxIcon::kStop, BoxButtons::kYesNo,
          "There is already a loaded game in progress. Would you like to create a new game?\n"

@@ -1,29 +1,8 @@
+#include <string>
+
 #include "program/program.h"
 
 namespace frostmark {
-
-Franchise::Franchise(Program& program)
-    : Screen(program.screens, "Franchise", "Franchise Mode", Border::kNone, OnClose::kEndsProgram),
-      program_(program) {}
-
-FPlayer::FPlayer(Program& program)
-    : Screen(program.screens, "FPlayer", "Player Stats", Border::kNone, OnClose::kHides) {}
-
-void Franchise::ConnectRoster() {
-  Command3.OnClick = [this] { PressToTraining(); };
-  Command4.OnClick = [this] { PressToLeadLine(); };
-  MainRoster.OnDoubleClick = [this] { ShowLeadPlayer(); };
-  TrainingRoster.OnDoubleClick = [this] { ShowTrainingPlayer(); };
-  Command6.OnClick = [this] { Minimize(); };
-  OnMouseDown = [this] { Ordvik::DragWindow(*this); };
-  XTab1.OnMouseDown = [this] { Ordvik::DragWindow(*this); };
-}
-
-void FPlayer::ConnectPlayerPopup() {
-  Label5.OnClick = [this] { Hide(); };
-  XTab1.OnMouseDown = [this] { Ordvik::DragWindow(*this); };
-}
-
 namespace {
 
 // Moves the selected player of SHOWN and its RECORDS to the end of the other line. The selection is
@@ -38,42 +17,19 @@ void MovePlayer(HockeyNaming& naming, const char* training, ListBox& shown, List
   shown.RemoveItem(shown.ListIndex());
 }
 
-}  // namespace
-
-void Franchise::PressToTraining() {
-  if (MainRoster.ListIndex() < 0) return;
-  MovePlayer(program_.hockey_naming, "Y", MainRoster, MainList, TrainingRoster, TrainList);
-  SaveRoster();
+void SaveRoster(Program& program) {
+  Franchise& franchise = program.franchise;
+  const ListBox& lead = franchise.MainList;
+  const ListBox& training = franchise.TrainList;
+  franchise.tempList.Clear();
+  for (int i = 0; i < lead.ListCount(); ++i) franchise.tempList.AddItem(lead.List(i));
+  for (int i = 0; i < training.ListCount(); ++i) franchise.tempList.AddItem(training.List(i));
+  program.ordvik.SaveListFile(franchise.tempList, franchise.UserTeamPath());
 }
 
-void Franchise::PressToLeadLine() {
-  if (TrainingRoster.ListIndex() < 0) return;
-  MovePlayer(program_.hockey_naming, "N", TrainingRoster, TrainList, MainRoster, MainList);
-  SaveRoster();
-}
-
-void Franchise::SaveRoster() {
-  tempList.Clear();
-  for (int i = 0; i < MainList.ListCount(); ++i) tempList.AddItem(MainList.List(i));
-  for (int i = 0; i < TrainList.ListCount(); ++i) tempList.AddItem(TrainList.List(i));
-  program_.ordvik.SaveListFile(tempList, UserTeamPath());
-}
-
-void Franchise::ShowLeadPlayer() {
-  const int selected = MainRoster.ListIndex();
-  ShowPlayer(selected, selected);
-}
-
-// Shows no training player on purpose: they are not on display. The name is that of the selected
-// lead player, if one is selected, and the numbers are always the first lead player's.
-void Franchise::ShowTrainingPlayer() { ShowPlayer(MainRoster.ListIndex(), 0); }
-
-void Franchise::ShowPlayer(int name_of, int numbers_of) {
-  FPlayer& popup = program_.f_player;
-  const auto number = [&](const char* field) {
-    return HockeyNaming::GetField(MainList.List(numbers_of), field);
-  };
-  popup.Label10.SetCaption(HockeyNaming::GetField(MainList.List(name_of), "Name"));
+void ShowPlayer(FPlayer& popup, const std::string& name_of, const std::string& numbers_of) {
+  const auto number = [&](const char* field) { return HockeyNaming::GetField(numbers_of, field); };
+  popup.Label10.SetCaption(HockeyNaming::GetField(name_of, "Name"));
   popup.Label9.SetCaption(number("Overall"));
   popup.Label12.SetCaption(number("Shooting"));
   popup.Label15.SetCaption(number("Passing"));
@@ -81,6 +37,31 @@ void Franchise::ShowPlayer(int name_of, int numbers_of) {
   popup.Label3.SetCaption(number("Agility"));
   popup.Label1.SetCaption(number("Age"));
   popup.Show();
+}
+
+}  // namespace
+
+void Franchise::PressToTraining() {
+  if (MainRoster.ListIndex() < 0) return;
+  MovePlayer(program_.hockey_naming, "Y", MainRoster, MainList, TrainingRoster, TrainList);
+  SaveRoster(program_);
+}
+
+void Franchise::PressToLeadLine() {
+  if (TrainingRoster.ListIndex() < 0) return;
+  MovePlayer(program_.hockey_naming, "N", TrainingRoster, TrainList, MainRoster, MainList);
+  SaveRoster(program_);
+}
+
+void Franchise::ShowLeadPlayer() {
+  const std::string record = MainList.List(MainRoster.ListIndex());
+  ShowPlayer(program_.f_player, record, record);
+}
+
+// Shows no training player on purpose: they are not on display. The name is that of the selected
+// lead player, if one is selected, and the numbers are always the first lead player's.
+void Franchise::ShowTrainingPlayer() {
+  ShowPlayer(program_.f_player, MainList.List(MainRoster.ListIndex()), MainList.List(0));
 }
 
 }  // namespace frostmark

@@ -7,7 +7,6 @@
 #include "program/program.h"
 #include "records/leagues.h"
 #include "records/whole_file.h"
-#include "shell/under_way.h"
 
 namespace frostmark {
 namespace {
@@ -17,15 +16,6 @@ std::string SavedFile(const Ordvik& ordvik, const ListBox& list) {
 }
 
 }  // namespace
-
-void Franchise::ConnectSaveAndClose() {
-  HighButton2.OnClick = [this] { PressClose(); };
-  HighButton3.OnClick = [this] { SaveGame(); };
-}
-
-void Startup::ConnectLoad() {
-  HighButton5.OnClick = [this] { PressLoad(); };
-}
 
 void Franchise::SaveGame() {
   Ordvik& ordvik = program_.ordvik;
@@ -54,11 +44,6 @@ void Franchise::SaveGame() {
   if (save.Commit()) program_.under_way.Saved();
   // Said in any case: no file operation tells how it went.
   program_.desktop.ShowBox({BoxIcon::kInformation, BoxButtons::kOk, "File saved!"});
-}
-
-void Franchise::PressClose() {
-  Hide();
-  program_.startup.Show();
 }
 
 namespace {
@@ -142,7 +127,7 @@ void Startup::PressLoad() {
   Ordvik& ordvik = program_.ordvik;
   Franchise& franchise = program_.franchise;
   if (!ordvik.KeepsToItsFolder()) return;
-  if (!FinishCutOffWork(ordvik) || program_.under_way.IsBuild()) return;
+  if (!program_.FinishCutOffWork() || program_.under_way.IsBuild()) return;
   const auto game = FindSavedGame(program_);
   if (!game) return;
   const auto load = [&](ListBox& list) {

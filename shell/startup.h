@@ -45,16 +45,11 @@ class Startup : public Screen {
   Label Label12{Frame1, "Label12", "",
                 Called{"Roll for a wanted overall (the left edge of the panel)"}};
 
-  // start_screen.cpp
-  void ConnectStartScreen();
-
-  // save_and_resume.cpp
-  void ConnectLoad();
-  // Takes up the saved franchise. Does nothing when there is none.
+  // shell/save_and_resume.cpp
+  // Resumes the saved franchise. Does nothing when there is none.
   void PressLoad();
 
-  // new_franchise.cpp
-  void ConnectNewFranchise();
+  // shell/new_franchise.cpp
   void PressNew();
   void PressGenerate();
   void PressBegin();
@@ -67,11 +62,6 @@ class Startup : public Screen {
   void BuildLeague();
 
  private:
-  void ClickSingleGame();
-  void ClickFranchise();
-  // False when the team has no file.
-  bool BuildTeam(const char* rank, int weakest, int strongest);
-
   Program& program_;
 };
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <chrono>
 #include <string>
 
 #include "records/ui_queue.h"
@@ -38,9 +37,6 @@ class Desktop : public UiQueue {
 
   // Opens ADDRESS in the user's web browser.
   virtual void OpenWebPage(const std::string& address) = 0;
-
-  // The clock: time since midnight.
-  virtual std::chrono::microseconds SinceMidnight() = 0;
 
   // Ends the program at once, whatever is on the stack. Does not return: it leaves the process or
   // throws ProgramEnded, which only the front end catches.

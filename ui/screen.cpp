@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "records/ordvik.h"
+
 namespace frostmark {
 
 Screen* ScreenList::Find(std::string_view name) const {
@@ -61,5 +63,7 @@ void Screen::RequestDrag() {
 void Screen::Changed() {
   if (observer_ != nullptr) observer_->ScreenChanged(*this);
 }
+
+void Ordvik::DragWindow(Screen& form) { form.RequestDrag(); }
 
 }  // namespace frostmark

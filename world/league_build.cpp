@@ -3,14 +3,15 @@
 #include <limits>
 #include <system_error>
 
-#include "development/league_moves.h"
 #include "program/program.h"
 #include "records/leagues.h"
 
 namespace frostmark {
 namespace {
 
-constexpr std::array<const char*, 35> kCities = {
+constexpr int kTeamsOfNewWorld = kRankCount * kTeamsInLeague - 1;  // without the user's
+
+constexpr std::array<const char*, kTeamsOfNewWorld> kCities = {
     "Binghamton", "Baltimore",  "Boston",       "Chicago",      "Cleveland",    "Denver",
     "Edmonton",   "Houston",    "Indianapolis", "Jacksonville", "Juneau",       "Manitoba",
     "Minneasota", "New Jersey", "New York",     "Ottawa",       "Philadelphia", "Phoenix",
@@ -18,7 +19,7 @@ constexpr std::array<const char*, 35> kCities = {
     "Seattle",    "Syracuse",   "Toronto",      "Utah",         "Utica",        "Vancouver",
     "Victoria",   "Virginia",   "Winnipeg",     "Worcester",    "Los Angeles"};
 
-constexpr std::array<const char*, 35> kNicknames = {
+constexpr std::array<const char*, kTeamsOfNewWorld> kNicknames = {
     "Whalers", "Clippers",  "Braves",   "Cougars",       "Crusaders", "Blizzard",    "Roadrunners",
     "Aeros",   "Capitals",  "Barons",   "Eskimos",       "Moose",     "North Stars", "Knights",
     "Raiders", "Nationals", "Quakers",  "Heat",          "Hornets",   "Citadelles",  "Reds",
@@ -34,13 +35,16 @@ struct Band {
   int strongest;
 };
 
+constexpr int kAnyWeakness = std::numeric_limits<int>::min();
+constexpr int kAnyStrength = std::numeric_limits<int>::max();
+
 constexpr std::array<Band, kRankCount> kBands = {{
-    {"Rank F", 5, std::numeric_limits<int>::min(), 80},  // the user's team will be the sixth
-    {"Rank E", 6, 80, 82},
-    {"Rank D", 6, 82, 83},
-    {"Rank C", 6, 85, 86},
-    {"Rank B", 6, 86, 88},
-    {"Rank A", 6, 88, std::numeric_limits<int>::max()},
+    {"Rank F", kTeamsInLeague - 1, kAnyWeakness, 80},  // the user's team will be the sixth
+    {"Rank E", kTeamsInLeague, 80, 82},
+    {"Rank D", kTeamsInLeague, 82, 83},
+    {"Rank C", kTeamsInLeague, 85, 86},
+    {"Rank B", kTeamsInLeague, 86, 88},
+    {"Rank A", kTeamsInLeague, 88, kAnyStrength},
 }};
 
 // False also where that cannot be seen: a listing that fails looks like one of an empty folder.
@@ -61,6 +65,24 @@ std::string Draw(Ordvik& ordvik, RecordList& list) {
   return item;
 }
 
+// Rolls teams until one lies in BAND, and gives it a name. False when the team has no file.
+bool BuildTeam(Program& program, const Band& band) {
+  TeamCreator& creator = program.team_creator;
+  Ordvik& ordvik = program.ordvik;
+  double overall = 0;
+  do {
+    creator.GenTeam();
+    program.desktop.Yield();
+    overall = LenientNumber(creator.Label7.Caption());
+  } while (overall < band.weakest || overall > band.strongest);
+  const std::string city = Draw(ordvik, program.startup.List3);
+  const std::string team = city + " " + Draw(ordvik, program.startup.List4);
+  const std::string path = ordvik.TeamPath(band.rank, team);
+  ordvik.SaveListFile(creator.List1, path);
+  program.desktop.Yield();
+  return Ordvik::FileExists(path);
+}
+
 }  // namespace
 
 void Startup::BuildLeague() {
@@ -69,7 +91,7 @@ void Startup::BuildLeague() {
   for (const char* city : kCities) List3.AddItem(city);
   for (const char* nickname : kNicknames) List4.AddItem(nickname);
   UnderWay::Build build(program_.under_way);
-  ForgetLeagueMoves(program_.ordvik);
+  program_.ForgetCutOffMoves();
   bool whole = true;
   for (const char* rank : kRanks) {
     File1.SetPath(program_.ordvik.RankFolder(rank));
@@ -82,29 +104,13 @@ void Startup::BuildLeague() {
   }
   for (const Band& band : kBands) {
     for (int team = 0; team < band.teams; ++team) {
-      if (!BuildTeam(band.rank, band.weakest, band.strongest)) whole = false;
+      if (!BuildTeam(program_, band)) whole = false;
     }
   }
   // A world that lacks a team, or has kept one of the world before, cannot be played.
   build.Complete(whole);
   program_.franchise.Season.SetCaption("0");
   program_.franchise.Champion.SetCaption("0");
-}
-
-bool Startup::BuildTeam(const char* rank, int weakest, int strongest) {
-  TeamCreator& creator = program_.team_creator;
-  double overall = 0;
-  do {
-    creator.GenTeam();
-    program_.desktop.Yield();
-    overall = LenientNumber(creator.Label7.Caption());
-  } while (overall < weakest || overall > strongest);
-  const std::string city = Draw(program_.ordvik, List3);
-  const std::string team = city + " " + Draw(program_.ordvik, List4);
-  const std::string path = program_.ordvik.TeamPath(rank, team);
-  program_.ordvik.SaveListFile(creator.List1, path);
-  program_.desktop.Yield();
-  return Ordvik::FileExists(path);
 }
 
 }  // namespace frostmark

@@ -36,16 +36,13 @@ class TeamCreator : public Screen {
   Label Label6{*this, "Label6", "0", Called{"Defense", "Defense"}};
   Label Label7{*this, "Label7", "0", Called{"Overall", "Overall"}};
 
-  // world/player_generation.cpp
-  void ConnectTeamCreator();
+  // world/team_creator.cpp
   // Rolls a roster into List1: six lead players, then five training players, and rates it.
   void GenTeam();
   // Writes List1 relative to the current folder, then empties the form.
   void PressSave();
 
  private:
-  void MakePlayer(int position, const char* training);
-
   Program& program_;
 };
 

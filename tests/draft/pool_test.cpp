@@ -73,7 +73,7 @@ TEST_F(DraftPoolTest, TheListsAreSortedBestFirst) {
 
 TEST_F(DraftPoolTest, ThePoolIsShownWhenAllOfItIsRolled) {
   for (ListPair* list : draft().Pool()) list->shown.AddItem("of last year");
-  draft().AddRetirement("x");
+  draft().Events.AddItem("x");
   for (int player = 1; player <= 120; ++player) {
     desktop().AtYield([this, player] {
       EXPECT_EQ(draft().Events.ListCount(), 0);

@@ -57,6 +57,9 @@ class UnderWay {
   // Whether the teams of the world before may be gone in part, so that its saved game is none any
   // more.
   bool IsBuild() const;
+  // Whether a beginning was cut off before its save. The settings are then those of the game
+  // before, and so are the tables, whose teams are gone; a team of the same name is another one.
+  bool IsUnsavedBeginning() const;
 
  private:
   bool IsSet() const;
@@ -69,9 +72,5 @@ class UnderWay {
   int ready_ = 0;      // of the beginnings
   bool whole_ = true;  // what the builds within one another have made
 };
-
-// Finishes what a program that was cut off has left half done: the moves of a season's end, and a
-// save. False when that was not possible; what is on the disk is then not fit to be played.
-bool FinishCutOffWork(Ordvik& ordvik);
 
 }  // namespace frostmark

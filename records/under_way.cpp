@@ -1,9 +1,8 @@
-#include "shell/under_way.h"
+#include "records/under_way.h"
 
 #include <string>
 #include <string_view>
 
-#include "development/league_moves.h"
 #include "records/whole_file.h"
 
 namespace frostmark {
@@ -15,14 +14,6 @@ constexpr std::string_view kBeginning = "begin\r\n";  // and the settings before
 
 std::string Settings(Ordvik& ordvik) {
   return ordvik.files().Read(ordvik.SettingsPath("settings.fmk")).value_or("");
-}
-
-// Whether a beginning was cut off before its save. The settings are then those of the game before,
-// and so are the tables, whose teams are gone; a team of the same name is another one.
-bool IsUnsavedBeginning(Ordvik& ordvik) {
-  const auto mark = ordvik.files().Read(ordvik.SettingsPath(kMark));
-  return mark && mark->starts_with(kBeginning) &&
-         mark->substr(kBeginning.size()) == Settings(ordvik);
 }
 
 }  // namespace
@@ -70,6 +61,12 @@ bool UnderWay::IsBuild() const {
   return !mark || !mark->starts_with(kBeginning);
 }
 
+bool UnderWay::IsUnsavedBeginning() const {
+  const auto mark = ordvik_.files().Read(ordvik_.SettingsPath(kMark));
+  return mark && mark->starts_with(kBeginning) &&
+         mark->substr(kBeginning.size()) == Settings(ordvik_);
+}
+
 void UnderWay::Mark(std::string_view work) {
   std::string mark(work);
   if (work == kBeginning) mark += Settings(ordvik_);
@@ -83,12 +80,6 @@ void UnderWay::Clear() {
   ordvik_.files().FlushFolders();
   Ordvik::DeleteFile(ordvik_.SettingsPath(kMark));
   (void)FlushFolder(ordvik_.AppPath() + "/Settings");
-}
-
-bool FinishCutOffWork(Ordvik& ordvik) {
-  const bool moved = FinishLeagueMoves(ordvik);
-  const bool saved = ordvik.files().FinishSaves();
-  return saved && moved && !IsUnsavedBeginning(ordvik);
 }
 
 }  // namespace frostmark
