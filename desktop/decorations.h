@@ -21,19 +21,19 @@ class TeamCreator;
 void SetUpForm(const Screen& screen, ScreenForm& form);
 
 // Adds what a form cannot say: delegates, pictures, what follows more than one control. FORM's
-// widgets are already connected to the controls of SCREEN, which is only read.
-void DecorateScreen(Screen& screen, ScreenForm& form);
+// widgets are already connected to the controls of SCREEN.
+void DecorateScreen(const Screen& screen, ScreenForm& form);
 
 // Each in screens/, in the file of its screen.
-void DecorateStartup(Startup& screen, ScreenForm& form);
-void DecorateTeamCreator(TeamCreator& screen, ScreenForm& form);
-void DecorateFStartGame(FStartGame& screen, ScreenForm& form);
-void DecorateGame(Game& screen, ScreenForm& form);
-void DecorateFranchise(Franchise& screen, ScreenForm& form);
-void DecorateFPlayer(FPlayer& screen, ScreenForm& form);
-void DecorateFResults(FResults& screen, ScreenForm& form);
-void DecorateFDraft(FDraft& screen, ScreenForm& form);
-void DecorateFSelectDraft(FSelectDraft& screen, ScreenForm& form);
+void DecorateStartup(const Startup& screen, ScreenForm& form);
+void DecorateTeamCreator(const TeamCreator& screen, ScreenForm& form);
+void DecorateFStartGame(const FStartGame& screen, ScreenForm& form);
+void DecorateGame(const Game& screen, ScreenForm& form);
+void DecorateFranchise(const Franchise& screen, ScreenForm& form);
+void DecorateFPlayer(const FPlayer& screen, ScreenForm& form);
+void DecorateFResults(const FResults& screen, ScreenForm& form);
+void DecorateFDraft(const FDraft& screen, ScreenForm& form);
+void DecorateFSelectDraft(const FSelectDraft& screen, ScreenForm& form);
 
 // The widget called NAME on FORM. A form without it is a fault of the build.
 template <class Widget>

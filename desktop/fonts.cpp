@@ -4,6 +4,8 @@
 #include <QFont>
 #include <QFontDatabase>
 
+#include "desktop/painting/measures.h"
+
 namespace frostmark {
 
 double PlainPoints() {
@@ -27,8 +29,8 @@ void UsePosterFonts() {
   static const bool once = [] {
     QFontDatabase::addApplicationFont(":/fonts/archivo-black/ArchivoBlack_400Regular.ttf");
     QFontDatabase::addApplicationFont(":/fonts/macondo/Macondo_400Regular.ttf");
-    QFont::insertSubstitution("Arial Black", "Archivo Black");
-    QFont::insertSubstitution("Papyrus", "Macondo");
+    QFont::insertSubstitution(kPosterFace, kPosterStandIn);
+    QFont::insertSubstitution(kScriptFace, kScriptStandIn);
     return true;
   }();
   Q_UNUSED(once)

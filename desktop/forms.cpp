@@ -18,7 +18,7 @@ namespace {
 struct Look {
   const char* name;
   void (*set_up)(ScreenForm& form);
-  void (*decorate)(Screen& screen, ScreenForm& form);
+  void (*decorate)(const Screen& screen, ScreenForm& form);
 };
 
 template <class Form>
@@ -26,9 +26,9 @@ void SetUp(ScreenForm& form) {
   Form().setupUi(&form);
 }
 
-template <class Type, void (*kDecorate)(Type&, ScreenForm&)>
-void Decorate(Screen& screen, ScreenForm& form) {
-  kDecorate(static_cast<Type&>(screen), form);
+template <class Type, void (*kDecorate)(const Type&, ScreenForm&)>
+void Decorate(const Screen& screen, ScreenForm& form) {
+  kDecorate(static_cast<const Type&>(screen), form);
 }
 
 constexpr Look kLooks[] = {
@@ -59,7 +59,7 @@ void SetUpForm(const Screen& screen, ScreenForm& form) {
   form.setAccessibleName(QString::fromStdString(screen.Title()));
 }
 
-void DecorateScreen(Screen& screen, ScreenForm& form) {
+void DecorateScreen(const Screen& screen, ScreenForm& form) {
   const Look* look = LookOf(screen);
   if (look != nullptr) look->decorate(screen, form);
 }

@@ -21,6 +21,7 @@
 #include "desktop/guard.h"
 #include "desktop/help_page.h"
 #include "desktop/keys.h"
+#include "desktop/painting/measures.h"
 #include "desktop/painting/palette.h"
 #include "desktop/screen_form.h"
 #include "desktop/stage.h"
@@ -33,20 +34,19 @@ namespace frostmark {
 namespace {
 
 constexpr int kShadow = 18;  // how far the shadow reaches
-constexpr int kCorner = 14;  // as in the style sheet
 constexpr int kInset = 12;   // of the mark in the corner
 
 // Draws the shadow of CARD, denser below it, as rings of nearly transparent night.
 void PaintShadow(QPainter& painter, const QRect& card) {
   // What the card covers is left out: it is most of the window, and shading it takes long.
-  const QRect covered = card.adjusted(kCorner, 0, -kCorner, 0);
+  const QRect covered = card.adjusted(kWindowCorner, 0, -kWindowCorner, 0);
   painter.setClipRegion(QRegion(painter.window()) - covered -
-                        card.adjusted(0, kCorner, 0, -kCorner));
+                        card.adjusted(0, kWindowCorner, 0, -kWindowCorner));
   painter.setPen(Qt::NoPen);
   painter.setBrush(QColor(2, 8, 20, 11));
   for (int reach = kShadow - 4; reach > 0; reach -= 2) {
     const QRect ring = card.adjusted(-reach, -reach, reach, reach).translated(0, 4);
-    painter.drawRoundedRect(ring, kCorner + reach, kCorner + reach);
+    painter.drawRoundedRect(ring, kWindowCorner + reach, kWindowCorner + reach);
   }
 }
 
@@ -294,7 +294,7 @@ void ScreenWindow::resizeEvent(QResizeEvent* event) {
   if (has_shadow_ || screen_.border() != Screen::Border::kNone) return;
   // Without a compositor nothing can be half transparent: the corners are cut instead.
   QPainterPath outline;
-  outline.addRoundedRect(rect(), kCorner, kCorner);
+  outline.addRoundedRect(rect(), kWindowCorner, kWindowCorner);
   setMask(QRegion(outline.toFillPolygon().toPolygon()));
 }
 

@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "desktop/fonts.h"
+#include "desktop/painting/measures.h"
 #include "desktop/painting/palette.h"
 #include "desktop/stage.h"
 
@@ -47,11 +48,18 @@ QString NameAt(const QString& text, qsizetype at) {
   return text.mid(at, end - at);
 }
 
-QString ColourCalled(const QString& name) {
-  for (const auto& [known, colour] : kColours) {
-    if (name == QLatin1String(known)) return QColor(colour).name();
+QString Families(const char* face, const char* stand_in) {
+  return QStringLiteral("\"%1\", \"%2\"").arg(face, stand_in);
+}
+
+QString ValueOf(const QString& name) {
+  if (name == "poster") return Families(kPosterFace, kPosterStandIn);
+  if (name == "script") return Families(kScriptFace, kScriptStandIn);
+  if (name == "corner") return QString::number(kWindowCorner) + "px";
+  for (const auto& [known, color] : kColours) {
+    if (name == QLatin1String(known)) return QColor(color).name();
   }
-  qFatal("The style sheet names a colour that the palette does not have: %s", qPrintable(name));
+  qFatal("The style sheet names what neither palette nor measures have: %s", qPrintable(name));
   return {};
 }
 
@@ -96,7 +104,7 @@ QString StyleSheet() {
   for (qsizetype at = text.indexOf('@'); at >= 0; at = text.indexOf('@', done)) {
     const QString name = NameAt(text, at + 1);
     sheet += QStringView(text).mid(done, at - done);
-    sheet += ColourCalled(name);
+    sheet += ValueOf(name);
     done = at + 1 + name.size();
   }
   return InPoints(sheet + text.mid(done));

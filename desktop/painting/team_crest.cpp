@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include "desktop/painting/measures.h"
 #include "desktop/painting/palette.h"
 
 namespace frostmark {
@@ -85,7 +86,7 @@ void PaintCrest(QPainter& painter, const QRectF& rect, const QString& team, cons
   painter.setBrush(Qt::NoBrush);
   painter.setPen(QPen(QColor(palette::kIce), line));
   painter.drawPath(shield);
-  QFont letters("Arial Black");
+  QFont letters(kPosterFace);
   letters.setPixelSize(std::max(6, static_cast<int>(rect.height() * 0.36)));
   painter.setFont(letters);
   painter.setPen(Qt::white);

@@ -57,7 +57,7 @@ void ShowTurn(const FDraft& screen, ScreenForm& form, const QString& own_team) {
 
 }  // namespace
 
-void DecorateFDraft(FDraft& screen, ScreenForm& form) {
+void DecorateFDraft(const FDraft& screen, ScreenForm& form) {
   for (const PoolParts& part : kPool) {
     auto& list = Part<ListView>(form, part.list);
     list.setItemDelegate(new PlayerDelegate(&list));

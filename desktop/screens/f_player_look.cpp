@@ -6,7 +6,7 @@
 
 namespace frostmark {
 
-void DecorateFPlayer(FPlayer& /*screen*/, ScreenForm& form) {
+void DecorateFPlayer(const FPlayer& /*screen*/, ScreenForm& form) {
   // One look at the numbers, then Enter puts them away.
   Part<QPushButton>(form, "Label5").setFocus();
 }

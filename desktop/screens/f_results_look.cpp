@@ -44,7 +44,7 @@ Fate FateAfter(const FResults& screen, std::size_t league, int place) {
 
 }  // namespace
 
-void DecorateFResults(FResults& screen, ScreenForm& form) {
+void DecorateFResults(const FResults& screen, ScreenForm& form) {
   UsePosterFonts();
   const auto own_team = OwnTeam(screen);
   const auto mark = [&screen, &form, own_team] {

@@ -8,7 +8,7 @@
 
 namespace frostmark {
 
-void DecorateFSelectDraft(FSelectDraft& /*screen*/, ScreenForm& form) {
+void DecorateFSelectDraft(const FSelectDraft& /*screen*/, ScreenForm& form) {
   auto& list = Part<ListView>(form, "List1");
   list.setItemDelegate(new PlayerDelegate(&list));
   GiveRoom(list, 52, 11);

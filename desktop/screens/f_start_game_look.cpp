@@ -23,7 +23,7 @@ QString Chosen(const RecordList& teams) {
 
 }  // namespace
 
-void DecorateFStartGame(FStartGame& screen, ScreenForm& form) {
+void DecorateFStartGame(const FStartGame& screen, ScreenForm& form) {
   UsePosterFonts();
   GiveRoom(Part<ListView>(form, "List3"), 13, 7);
   GiveRoom(Part<ListView>(form, "List4"), 13, 7);

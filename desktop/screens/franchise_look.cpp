@@ -94,7 +94,7 @@ void KeepPlace(QWidget& widget) {
 
 }  // namespace
 
-void DecorateFranchise(Franchise& screen, ScreenForm& form) {
+void DecorateFranchise(const Franchise& screen, ScreenForm& form) {
   UsePosterFonts();
   auto& alerts = Part<ListView>(form, "Alerts");
   alerts.setItemDelegate(new NewsDelegate(OwnTeam(screen), &alerts));

@@ -167,7 +167,7 @@ void ShowLine(ListView& line) {
 
 }  // namespace
 
-void DecorateGame(Game& screen, ScreenForm& form) {
+void DecorateGame(const Game& screen, ScreenForm& form) {
   UsePosterFonts();
   ShowLine(Part<ListView>(form, "Line1"));
   ShowLine(Part<ListView>(form, "Line2"));

@@ -47,7 +47,7 @@ class PanelOpening : public QObject {
 
 }  // namespace
 
-void DecorateStartup(Startup& screen, ScreenForm& form) {
+void DecorateStartup(const Startup& screen, ScreenForm& form) {
   KeepPlaceWhenHidden(Part<QWidget>(form, "HighButton4"));
   KeepPlaceWhenHidden(Part<QWidget>(form, "HighButton5"));
   auto& scene = Part<TitleScene>(form, "look_scene");

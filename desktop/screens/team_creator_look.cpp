@@ -7,7 +7,7 @@
 
 namespace frostmark {
 
-void DecorateTeamCreator(TeamCreator& /*screen*/, ScreenForm& form) {
+void DecorateTeamCreator(const TeamCreator& /*screen*/, ScreenForm& form) {
   auto& roster = Part<ListView>(form, "List1");
   roster.setItemDelegate(new RecordDelegate(&roster));
   GiveRoom(roster, 68, 11);

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <chrono>
 
+#include "desktop/painting/measures.h"
 #include "desktop/painting/palette.h"
 
 namespace frostmark {
@@ -75,7 +76,7 @@ void DeedRibbon::PaintLine(QPainter& painter, const QRectF& line, const Deed& de
   letters.setPixelSize(qRound(line.height() * (newest ? 0.66 : 0.7)));
   letters.setWeight(QFont::DemiBold);
   QFont poster = letters;
-  poster.setFamily("Arial Black");
+  poster.setFamily(kPosterFace);
   poster.setWeight(QFont::Normal);
   const double gap = letters.pixelSize() * 0.6;
   const double word = QFontMetricsF(poster).horizontalAdvance(deed.word);

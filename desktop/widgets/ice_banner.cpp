@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <chrono>
 
+#include "desktop/painting/measures.h"
 #include "desktop/painting/motion.h"
 #include "desktop/painting/team_crest.h"
 
@@ -103,7 +104,7 @@ void IceBanner::paintEvent(QPaintEvent* /*event*/) {
     painter.drawText(line, Qt::AlignCenter, text);
   };
   QFont poster = font();
-  poster.setFamily("Arial Black");
+  poster.setFamily(kPosterFace);
   const double split = banner_.detail.isEmpty() ? band.height() : band.height() * 0.6;
   write({words.left(), band.top(), words.width(), split}, poster, 0.42, banner_.headline);
   if (banner_.detail.isEmpty()) return;

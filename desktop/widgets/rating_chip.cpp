@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "desktop/painting/measures.h"
 #include "desktop/painting/palette.h"
 
 namespace frostmark {
@@ -25,7 +26,7 @@ void RatingChip::SetCarrier(bool carrier) {
 
 QFont RatingChip::PosterFont() const {
   QFont poster = font();
-  poster.setFamily("Arial Black");
+  poster.setFamily(kPosterFace);
   return poster;
 }
 

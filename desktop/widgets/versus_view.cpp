@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include "desktop/painting/measures.h"
 #include "desktop/painting/palette.h"
 #include "desktop/painting/team_crest.h"
 
@@ -46,14 +47,14 @@ void VersusView::paintEvent(QPaintEvent* /*event*/) {
   const double side = (area.width() - middle) / 2;
 
   QFont face = font();
-  face.setFamilies({"Papyrus", "Macondo"});
+  face.setFamilies({kScriptFace, kScriptStandIn});
   face.setPointSizeF(face.pointSizeF() * 1.5);
   PaintSide(painter, QRectF(area.left(), area.top(), side, area.height()), left_, palette::kBlue,
             face);
   PaintSide(painter, QRectF(area.right() - side, area.top(), side, area.height()), right_,
             palette::kRed, face);
 
-  QFont letters("Arial Black");
+  QFont letters(kPosterFace);
   letters.setPixelSize(std::max(8, static_cast<int>(area.height() * 0.26)));
   letters.setItalic(true);
   painter.setFont(letters);
