@@ -172,7 +172,9 @@ void Sitting::AnswerBox(const std::string& key, const std::string& text) {
   QWidget* box = nullptr;
   Until("a box with the keyboard", [&] {
     box = Ask([] { return Box() != nullptr && Box()->isActiveWindow() ? Box() : nullptr; });
-    return box != nullptr;
+    if (box == nullptr) return false;
+    const auto id = Ask([&] { return static_cast<std::uint32_t>(box->internalWinId()); });
+    return x_.Active() == id;
   });
   x_.Type(text);
   Keep("box");
