@@ -49,7 +49,7 @@ double MillisecondsAWeek(Program& program) {
 
 void PrintDesktopFigures(int argc, char** argv) {
   const QApplication application(argc, argv);
-  const WorldForBench world;  // lays out and saves the game that the windows take up
+  const WorldForBench world;  // lays out and saves the game that the windows resume
   QtDesktop desktop;
   ClockDice dice;
   Program program(desktop, dice, world.Folder());

@@ -80,7 +80,7 @@ Person::~Person() {
 }
 
 void Person::GiveUp() {
-  ADD_FAILURE() << "it never came to: " << deeds_.front().what.toStdString();
+  ADD_FAILURE() << "this never happened: " << deeds_.front().what.toStdString();
   deeds_.clear();
   desktop_.guard().Call([this] { desktop_.EndProgram(); });
 }

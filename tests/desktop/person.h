@@ -18,7 +18,7 @@ class QuickDesktop;
 // one thing after the other, each as soon as it can be done.
 class Person {
  public:
-  // Ends the program on DESKTOP when it does not come to something for seconds, so that a procedure
+  // Ends the program on DESKTOP when nothing gets done for seconds, so that a procedure
   // that waits for it does not wait for ever.
   explicit Person(QuickDesktop& desktop);
   // Everything told must have been done by then.
@@ -27,7 +27,7 @@ class Person {
   Person& operator=(const Person&) = delete;
 
   // Does DEED as soon as READY, after all that was told before. WHAT is for the message when it
-  // never comes to it.
+  // never happens.
   void When(const QString& what, std::function<bool()> ready, std::function<void()> deed);
 
   // Answers the next box with KEY, after typing TEXT into it.

@@ -82,7 +82,7 @@ class Listener:
             if self._game.poll() is not None:
                 raise NeverHeard(f"the game has ended before this: {what}")
             if time.monotonic() > self._last:
-                raise NeverHeard(f"it never came to this: {what}")
+                raise NeverHeard(f"this never happened: {what}")
             self._context.iteration(True)
 
     def exit_code(self):

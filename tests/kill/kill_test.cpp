@@ -32,7 +32,7 @@ class KillTest : public GameFixture {
     home_ = TeamsByLeague();
   }
 
-  // One list of names a league.
+  // One list of names per league.
   std::vector<Lines> TeamsByLeague() const {
     std::vector<Lines> leagues;
     for (const char* rank : kRanks) leagues.push_back(world.FileNames(rank));
@@ -133,7 +133,7 @@ TEST_F(KillTest, InTheMiddleOfWeeks) {
 
 TEST_F(KillTest, AtTheYearsTurn) {
   KillAgainAndAgain("years", [this](const Lines& /*said*/) { LookAfterYears(); });
-  // Left alone it finds back to six teams a league.
+  // Left alone it finds back to six teams per league.
   Victim victim({world.path(), "years", "3"});
   ASSERT_TRUE(victim.EndsWell());
   for (const Lines& league : TeamsByLeague()) EXPECT_EQ(league.size(), 6U);

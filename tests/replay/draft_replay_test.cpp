@@ -24,7 +24,7 @@ class DraftReplay : public testing::TestWithParam<std::uint64_t> {
  protected:
   DraftReplay() : whim(GetParam()), replay(GetParam()) {}
 
-  // Puts a world of TEAMS teams a league into the folder; the user's is in the league OWN.
+  // Puts a world of TEAMS teams per league into the folder; the user's is in the league OWN.
   // Nobody is older than OLDEST.
   void PutWorld(int teams, int own, int fewest, int most, int oldest = 45) {
     for (int rank = 0; rank < kRankCount; ++rank) {

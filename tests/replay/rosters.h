@@ -28,7 +28,7 @@ reference::Lines OddRoster(Whim& whim, int fewest, int most);
 // ROSTER without the players of POSITIONS.
 reference::Lines WithoutPositions(reference::Lines roster, const reference::Lines& positions);
 
-// Makes the Shooting or the Defense of one player no number.
+// Makes the Shooting or the Defense of one player something that is not a number.
 void SpoilOne(Whim& whim, reference::Lines& roster);
 
 }  // namespace frostmark::test

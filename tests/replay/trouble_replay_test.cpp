@@ -74,7 +74,7 @@ TEST_P(TroubleReplay, ASeasonCutShortWithFiveTeamsInRankF) {
   replay.Run();
 }
 
-// Both teams are then the user's: two games a week, two turns in the draft.
+// Both teams are then the user's: two games per week, two turns in the draft.
 TEST_P(TroubleReplay, ANameThatIsTakenInAnotherLeague) {
   replay.Run();
   TakeNameOf(TeamOf("Rank E", 3));

@@ -3,7 +3,7 @@
 #include "records/runtime_error.h"
 #include "tests/support/game_fixture.h"
 
-// Saved games as nobody should leave them, taken up and played on.
+// Saved games as nobody should leave them, resumed and played on.
 namespace frostmark::test {
 namespace {
 

@@ -56,7 +56,7 @@ void Sitting::Until(const std::string& what, const std::function<bool()>& truth)
   const auto last = steady_clock::now() + kPatience;
   while (!truth()) {
     if (steady_clock::now() > last) {
-      ADD_FAILURE() << "it never came to this: " << what << "\n" << x_.Described();
+      ADD_FAILURE() << "this never happened: " << what << "\n" << x_.Described();
       throw GaveUp{};
     }
     std::this_thread::sleep_for(kBetweenLooks);
@@ -127,7 +127,7 @@ void Sitting::TabTo(const std::string& name) {
     const std::string before = now;
     Until("Tab to go on from " + before, [&] { return (now = focus()) != before; });
     if (now != first) continue;
-    ADD_FAILURE() << "Tab never comes to " << name;
+    ADD_FAILURE() << "Tab never reaches " << name;
     throw GaveUp{};
   }
 }
