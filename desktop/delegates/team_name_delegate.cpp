@@ -12,8 +12,8 @@ bool TeamNameDelegate::PaintRow(QPainter& painter, const QStyleOptionViewItem& o
   const double margin = row::Margin(option);
   const double high = option.rect.height() * 0.78;
   const QRectF crest(option.rect.left() + margin, option.rect.center().y() - high / 2 + 0.5,
-                     high * 0.86, high);
-  PaintCrest(painter, crest, option.text, colour_);
+                     high * kCrestBreadth, high);
+  PaintCrest(painter, crest, option.text);
   QRectF name(option.rect);
   name.setLeft(crest.right() + margin);
   name.setRight(name.right() - margin);

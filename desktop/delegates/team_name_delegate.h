@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QColor>
-
 #include "desktop/delegates/row_delegate.h"
 
 namespace frostmark {
@@ -11,14 +9,11 @@ class TeamNameDelegate : public RowDelegate {
   Q_OBJECT
 
  public:
-  TeamNameDelegate(QColor colour, QObject* parent) : RowDelegate(parent), colour_(colour) {}
+  using RowDelegate::RowDelegate;
 
  protected:
   bool PaintRow(QPainter& painter, const QStyleOptionViewItem& option,
                 const QModelIndex& index) const override;
-
- private:
-  QColor colour_;
 };
 
 }  // namespace frostmark

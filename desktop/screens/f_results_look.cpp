@@ -8,6 +8,7 @@
 #include "desktop/screen_form.h"
 #include "desktop/screens/own_team.h"
 #include "desktop/screens/spoken_news.h"
+#include "desktop/widgets/crest_mark.h"
 #include "desktop/widgets/fate_label.h"
 #include "desktop/widgets/roles.h"
 #include "desktop/widgets/room.h"
@@ -57,6 +58,7 @@ void DecorateFResults(const FResults& screen, ScreenForm& form) {
       mark_team(kLeagues[league].first, league, kFirst);
       mark_team(kLeagues[league].last, league, kLast);
     }
+    Part<CrestMark>(form, "look_crest").SetTeam(QString::fromStdString(screen.Champ.Caption()));
   };
   mark();
   QObject::connect(&form, &ScreenForm::Refreshed, &form, mark);

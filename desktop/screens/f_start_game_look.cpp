@@ -2,7 +2,6 @@
 #include "desktop/delegates/team_name_delegate.h"
 #include "desktop/fonts.h"
 #include "desktop/list_view.h"
-#include "desktop/painting/palette.h"
 #include "desktop/screen_form.h"
 #include "desktop/widgets/pin.h"
 #include "desktop/widgets/room.h"
@@ -12,8 +11,8 @@
 namespace frostmark {
 namespace {
 
-void ShowTeams(ListView& list, QRgb colour) {
-  list.setItemDelegate(new TeamNameDelegate(QColor(colour), &list));
+void ShowTeams(ListView& list) {
+  list.setItemDelegate(new TeamNameDelegate(&list));
   GiveRoom(list, 32, 7);
 }
 
@@ -27,8 +26,8 @@ void DecorateFStartGame(const FStartGame& screen, ScreenForm& form) {
   UsePosterFonts();
   GiveRoom(Part<ListView>(form, "List3"), 13, 7);
   GiveRoom(Part<ListView>(form, "List4"), 13, 7);
-  ShowTeams(Part<ListView>(form, "File1"), palette::kBlue);
-  ShowTeams(Part<ListView>(form, "File2"), palette::kRed);
+  ShowTeams(Part<ListView>(form, "File1"));
+  ShowTeams(Part<ListView>(form, "File2"));
   new Pin(Part<QWidget>(form, "Label2"), Qt::AlignTop | Qt::AlignRight, {0, 12, 48, 0});
 
   auto& versus = Part<VersusView>(form, "look_versus");

@@ -13,6 +13,7 @@
 #include "desktop/screens/match_story.h"
 #include "desktop/screens/own_team.h"
 #include "desktop/screens/spoken_news.h"
+#include "desktop/widgets/crest_mark.h"
 #include "desktop/widgets/deed_ribbon.h"
 #include "desktop/widgets/goal_sheet.h"
 #include "desktop/widgets/ice_banner.h"
@@ -148,13 +149,15 @@ class Commentator : public QObject {
   std::function<QString()> own_team_;
 };
 
-// Marks the user's own team wherever the screen names the two.
-void MarkOwn(const Game& game, ScreenForm& form) {
+// Shows the crests of the two, and marks the user's own team wherever the screen names it.
+void MarkTeams(const Game& game, ScreenForm& form) {
   QObject::connect(&form, &ScreenForm::Refreshed, &form, [&game, &form, own_team = OwnTeam(game)] {
     const std::string own = own_team().toStdString();
     for (const Label* name : {&game.RHome, &game.GHome, &game.RVisitor, &game.GVisitor}) {
       ShowOwn(Part<QLabel>(form, name->Name().c_str()), !own.empty() && name->Caption() == own);
     }
+    Part<CrestMark>(form, "look_crest1").SetTeam(QString::fromStdString(game.GHome.Caption()));
+    Part<CrestMark>(form, "look_crest2").SetTeam(QString::fromStdString(game.GVisitor.Caption()));
   });
 }
 
@@ -190,7 +193,7 @@ void DecorateGame(const Game& screen, ScreenForm& form) {
                    Part<DeedRibbon>(form, "look_ribbon"),
                    Part<MatchTally>(form, "look_tally"),
                    {&Part<GoalSheet>(form, "look_goals1"), &Part<GoalSheet>(form, "look_goals2")}});
-  MarkOwn(screen, form);
+  MarkTeams(screen, form);
   TellPlay(screen, form);
 }
 

@@ -91,7 +91,7 @@ void IceBanner::paintEvent(QPaintEvent* /*event*/) {
   if (!banner_.team.isEmpty()) {
     QRectF crest(0, 0, band.height() * 0.62, band.height() * 0.72);
     crest.moveCenter({words.left() + crest.width() / 2, band.center().y()});
-    PaintCrest(painter, crest, banner_.team, banner_.ground.lighter(130));
+    PaintCrest(painter, crest, banner_.team);
     words.setLeft(crest.right() + band.height() * 0.2);
   }
   const auto write = [&](QRectF line, QFont font, double share, const QString& text) {

@@ -14,9 +14,18 @@ void PaintSide(QPainter& painter, const QRectF& side, const QString& team, QRgb 
                const QFont& face) {
   const double line = QFontMetricsF(face).height();
   const double height = side.height() - line * 1.3;
-  QRectF crest(0, side.top(), height * 0.86, height);
+  QRectF crest(0, side.top(), height * kCrestBreadth, height);
   crest.moveCenter(QPointF(side.center().x(), crest.center().y()));
-  PaintCrest(painter, crest, team, QColor(colour));
+  // The side is a light behind the crest, whose colours are the team's own.
+  QRadialGradient light(crest.center(), height * 0.5);
+  QColor glow(colour);
+  glow.setAlpha(210);
+  light.setColorAt(0.7, glow);
+  glow.setAlpha(0);
+  light.setColorAt(1, glow);
+  painter.fillRect(side, light);
+  const double halo = height * 0.07;
+  PaintCrest(painter, crest.adjusted(halo, halo, -halo, -halo), team);
   painter.setFont(face);
   painter.setPen(QColor(palette::kIce));
   const QRectF name(side.left(), side.bottom() - line * 1.15, side.width(), line * 1.15);

@@ -219,7 +219,7 @@ TEST_F(Look, EveryRowIsReadableInEveryState) {
       {"goal", new PlayDelegate(&window_), "James Smith SCORES! Assist by: John Brown", 2},
       {"team", new TeamDelegate(stays, own_team, &window_), "(3-1-0) Denver Blizzard", 0},
       {"own team", new TeamDelegate(stays, own_team, &window_), "(3-1-0) Boston Braves", 0.2},
-      {"name", new TeamNameDelegate(QColor(palette::kBlue), &window_), "Denver Blizzard", 2},
+      {"name", new TeamNameDelegate(&window_), "Denver Blizzard", 2},
       {"other", new PlayerDelegate(&window_), "nobody in particular", 0},
   };
   for (const Rows& row : rows) {
