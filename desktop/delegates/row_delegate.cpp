@@ -21,6 +21,7 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   QStyleOptionViewItem prepared = option;
   initStyleOption(&prepared, index);
   painter->save();
+  PaintHead(*painter, prepared, index);
   row::PaintGround(*painter, prepared);
   PaintText(*painter, prepared, index);
   painter->restore();
@@ -32,6 +33,7 @@ bool RowDelegate::IsCut(const QStyleOptionViewItem& option, const QModelIndex& i
   QImage nowhere(1, 1, QImage::Format_ARGB32_Premultiplied);
   QPainter painter(&nowhere);
   const row::CutWatch watch;
+  PaintHead(painter, prepared, index);
   PaintText(painter, prepared, index);
   return watch.Any();
 }

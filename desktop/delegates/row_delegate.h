@@ -26,6 +26,10 @@ class RowDelegate : public QStyledItemDelegate {
                  const QModelIndex& index) override;
 
  protected:
+  // Draws what heads the row of OPTION and takes its room off OPTION's rect; nothing in most lists.
+  virtual void PaintHead(QPainter& /*painter*/, QStyleOptionViewItem& /*option*/,
+                         const QModelIndex& /*index*/) const {}
+
   // Draws the row of OPTION, whose text and font are set, on its ground. Returns false, with
   // nothing drawn, when the text is in no form that the delegate knows.
   virtual bool PaintRow(QPainter& painter, const QStyleOptionViewItem& option,

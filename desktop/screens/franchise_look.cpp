@@ -5,12 +5,12 @@
 #include <array>
 
 #include "desktop/decorations.h"
-#include "desktop/delegates/news_delegate.h"
 #include "desktop/delegates/player_delegate.h"
 #include "desktop/delegates/team_delegate.h"
 #include "desktop/fonts.h"
 #include "desktop/list_view.h"
 #include "desktop/screen_form.h"
+#include "desktop/screens/franchise_parts.h"
 #include "desktop/screens/own_team.h"
 #include "desktop/screens/spoken_news.h"
 #include "desktop/widgets/roles.h"
@@ -96,10 +96,7 @@ void KeepPlace(QWidget& widget) {
 
 void DecorateFranchise(const Franchise& screen, ScreenForm& form) {
   UsePosterFonts();
-  auto& alerts = Part<ListView>(form, "Alerts");
-  alerts.setItemDelegate(new NewsDelegate(OwnTeam(screen), &alerts));
-  alerts.LetRowsGrow();
-  GiveRoom(alerts, 80, 8);
+  DressNews(screen, form);
   DressStandings(screen, form);
   DressRoster(form);
   new RosterKeys(Part<ListView>(form, "MainRoster"), Qt::Key_Right,
