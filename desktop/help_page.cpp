@@ -48,6 +48,8 @@ QString HelpPage::Keys(const Screen& screen) {
   rows += Row("Tab", "On to the next control; Shift+Tab back");
   rows += Row("Enter, Space", "Press the button; in a list choose the row");
   rows += Row("F1", "This page");
+  rows += Row("Ctrl++, Ctrl+-, Ctrl+0", "Everything larger, smaller, as usual");
+  rows += Row("F11", "The whole desktop, or a window again");
   rows += Row("Ctrl+Q", "Leave Frostmark");
   return rows;
 }

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "desktop/boxes.h"
+#include "desktop/preferences.h"
 #include "desktop/qt_desktop.h"
 #include "desktop/style.h"
 #include "program/program.h"
@@ -35,13 +36,14 @@ int main(int argc, char** argv) {
   QIcon icon;
   for (const char* size : {":/icon-48.png", ":/icon-128.png"}) icon.addFile(size);
   QApplication::setWindowIcon(icon);
-  frostmark::DressApplication(frostmark::FittingZoom());
+  frostmark::DressApplication(frostmark::FittingZoom(frostmark::preferences::Zoom()));
 
   const QByteArray folder = QFile::encodeName(QApplication::applicationDirPath());
   const frostmark::WorldClaim claim(folder.toStdString(), frostmark::WorldClaim::Answers::kYes);
   if (claim.Taken()) return LeaveItToTheOther(claim);
 
   frostmark::QtDesktop desktop;
+  desktop.TakePreferences();
   frostmark::ClockDice dice;
   frostmark::Program program(desktop, dice, folder.toStdString());
   std::optional<QSocketNotifier> knocks;

@@ -5,12 +5,15 @@
 #include <QTime>
 #include <QTimer>
 #include <QUrl>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
 #include "desktop/access.h"
 #include "desktop/boxes.h"
+#include "desktop/preferences.h"
 #include "desktop/screen_window.h"
+#include "desktop/style.h"
 #include "desktop/ticker.h"
 #include "ui/controls.h"
 
@@ -123,6 +126,7 @@ std::chrono::microseconds QtDesktop::SinceMidnight() {
 
 void QtDesktop::EndProgram() {
   guard_.SetEnded();
+  if (const auto center = stage_.MovedTo()) preferences::SetCenter(*center);
   for (QWidget* window : QApplication::topLevelWidgets()) window->hide();
   leave_(EXIT_SUCCESS);
   throw ProgramEnded{};
@@ -147,9 +151,46 @@ void QtDesktop::ScreenChanged(Screen& screen) {
   if (window == windows_.end()) {
     if (!screen.Visible()) return;
     auto made = std::make_unique<ScreenWindow>(screen, guard_, stage_, [this] { EndProgram(); });
+    QObject::connect(made.get(), &ScreenWindow::ZoomWanted, made.get(),
+                     [this](int steps) { ChangeZoom(steps); });
+    QObject::connect(made.get(), &ScreenWindow::FullScreenWanted, made.get(),
+                     [this] { ToggleFullScreen(); });
     window = windows_.emplace(&screen, std::move(made)).first;
   }
   window->second->Follow(screen.IsPopup() ? OpenerOf(screen) : nullptr);
+}
+
+void QtDesktop::TakePreferences() {
+  if (const auto center = preferences::Center()) stage_.BeginAround(*center);
+  stage_.full_screen = preferences::FullScreen();
+  Dress();
+}
+
+void QtDesktop::ChangeZoom(int steps) {
+  constexpr double kStep = 0.1;
+  constexpr double kLeast = 0.5;
+  if (stage_.full_screen) return;  // everything is as large as it gets
+  const double wanted = steps == 0 ? 1 : std::max(Zoom() + steps * kStep, kLeast);
+  preferences::SetZoom(FittingZoom(wanted));
+  Dress();
+}
+
+void QtDesktop::ToggleFullScreen() {
+  stage_.full_screen = !stage_.full_screen;
+  preferences::SetFullScreen(stage_.full_screen);
+  Dress();
+}
+
+// The letters grow with a window over the whole desktop, so that its pages stay what they are.
+void QtDesktop::Dress() {
+  constexpr double kAsLargeAsItGets = 100;
+  const double zoom = FittingZoom(stage_.full_screen ? kAsLargeAsItGets : preferences::Zoom());
+  if (zoom != Zoom()) DressApplication(zoom);
+  RefitWindows();
+}
+
+void QtDesktop::RefitWindows() {
+  for (const auto& [screen, window] : windows_) window->Refit();
 }
 
 QWidget* QtDesktop::OpenerOf(const Screen& popup) const {

@@ -46,6 +46,9 @@ class QtDesktop : public Desktop, public Screen::Observer {
   // the screen in front.
   void ComeToFront();
 
+  // Puts the main screens where and how the user left them the last time.
+  void TakePreferences();
+
   // The window of SCREEN, or nullptr when it has not been shown yet.
   ScreenWindow* Window(const Screen& screen) const;
 
@@ -56,6 +59,10 @@ class QtDesktop : public Desktop, public Screen::Observer {
   void LetEventsRun();
   void StopIfEnded() const;
   QWidget* FrontWindow() const;
+  void ChangeZoom(int steps);
+  void ToggleFullScreen();
+  void Dress();
+  void RefitWindows();
   QWidget* OpenerOf(const Screen& popup) const;
 
   std::function<void(int code)> leave_;

@@ -75,7 +75,7 @@ ScreenWindow::ScreenWindow(Screen& screen, Guard& guard, Stage& stage,
   DecorateScreen(screen_, *form_);
   focus_guide_ = new FocusGuide(*form_);
   OfferWayOut();
-  new QShortcut(QKeySequence(Qt::Key_F1), this, this, &ScreenWindow::Help);
+  OfferComfort();
 }
 
 ScreenWindow::~ScreenWindow() = default;
@@ -96,6 +96,22 @@ void ScreenWindow::OfferWayOut() {
   auto* mark = new LeaveMark(form_);
   connect(mark, &QAbstractButton::clicked, this, &ScreenWindow::LeaveProgram);
   new Pin(*mark, Qt::AlignTop | Qt::AlignRight, {0, kInset, kInset, 0});
+}
+
+void ScreenWindow::OfferComfort() {
+  new QShortcut(QKeySequence(Qt::Key_F1), this, this, &ScreenWindow::Help);
+  new QShortcut(QKeySequence(Qt::Key_F11), this, this, &ScreenWindow::FullScreenWanted);
+  const auto add_zoom = [this](const QList<QKeySequence>& keys, int steps) {
+    auto* shortcut = new QShortcut(this);
+    shortcut->setKeys(keys);
+    const auto ask = [this, steps] { emit ZoomWanted(steps); };
+    connect(shortcut, &QShortcut::activated, this, ask);
+    // Where plus and equal share a key, either of them may be meant.
+    connect(shortcut, &QShortcut::activatedAmbiguously, this, ask);
+  };
+  add_zoom({Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, 1);
+  add_zoom({Qt::CTRL | Qt::Key_Minus}, -1);
+  add_zoom({Qt::CTRL | Qt::Key_0}, 0);
 }
 
 // Over the window and before everything else on it, which goes on underneath.
@@ -121,15 +137,44 @@ void ScreenWindow::Follow(QWidget* opener) {
   }
   const bool is_new = !isVisible();
   if (is_new) Appear(opener);
-  if (isMinimized()) {
-    showNormal();
-  } else {
-    show();
-  }
+  ShowInState();
   raise();
   // A new window is given the keyboard anyway. Asked for as well, it would come once more and
   // later, and be taken from a box that has opened over the window meanwhile.
   if (!is_new) activateWindow();
+}
+
+void ScreenWindow::ShowInState() {
+  if (FillsDesktop()) {
+    showFullScreen();
+  } else if (isMinimized() || isFullScreen()) {
+    showNormal();
+  } else {
+    show();
+  }
+}
+
+bool ScreenWindow::FillsDesktop() const { return stage_.full_screen && !screen_.IsPopup(); }
+
+void ScreenWindow::Refit() {
+  ZoomLayouts(*form_);
+  // What its widgets ask for now, and not what they asked for in the letters before.
+  for (auto* layout : form_->findChildren<QLayout*>()) layout->invalidate();
+  layout()->activate();
+  FitShadow();
+  if (!isVisible() || isMinimized()) return;
+  if (isFullScreen() != FillsDesktop()) {
+    // A window manager gives a window that was born full the same size again when it is to be less:
+    // only a new one comes as it should.
+    hide();
+    destroy();
+    setWindowState(Qt::WindowNoState);
+  }
+  painted_ = false;
+  FitSize();
+  Place();
+  ShowInState();
+  activateWindow();
 }
 
 void ScreenWindow::Appear(QWidget* opener) {
@@ -142,14 +187,18 @@ void ScreenWindow::Appear(QWidget* opener) {
   opener_ = opener;
   focus_guide_->Begin();
   FitShadow();
-  const QSize room = QGuiApplication::primaryScreen()->availableSize() - QSize(0, TitleBar());
-  const QSize wanted = screen_.IsPopup() ? form_->sizeHint().boundedTo(room) : Stage::Size();
-  const QMargins shadow = layout()->contentsMargins();
-  resize(wanted.expandedTo(form_->minimumSizeHint()).grownBy(shadow));
+  FitSize();
   Place();
   if (opener == nullptr) return;
   winId();  // makes the window, which is what can have an opener
   windowHandle()->setTransientParent(opener->windowHandle());
+}
+
+void ScreenWindow::FitSize() {
+  const QSize room = QGuiApplication::primaryScreen()->availableSize() - QSize(0, TitleBar());
+  const QSize wanted = screen_.IsPopup() ? form_->sizeHint().boundedTo(room) : Stage::Size();
+  const QMargins shadow = layout()->contentsMargins();
+  resize(wanted.expandedTo(form_->minimumSizeHint()).grownBy(shadow));
 }
 
 int ScreenWindow::TitleBar() const {
@@ -171,6 +220,7 @@ void ScreenWindow::Place() {
 
 void ScreenWindow::FitShadow() {
   if (!has_shadow_) return;
+  if (FillsDesktop()) return layout()->setContentsMargins(0, 0, 0, 0);
   // Where the screen is small the shadow goes first.
   const QSize room = QGuiApplication::primaryScreen()->availableSize();
   const QSize rest = screen_.IsPopup() ? room : room - Stage::Size();
@@ -231,7 +281,7 @@ void ScreenWindow::mousePressEvent(QMouseEvent* event) {
 }
 
 void ScreenWindow::StartDrag() {
-  if (dragging_) return;
+  if (dragging_ || isFullScreen()) return;
   dragging_ = true;
   moving_itself_ = false;
   drag_start_ = QCursor::pos();
@@ -272,7 +322,7 @@ bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
 
 void ScreenWindow::moveEvent(QMoveEvent* event) {
   QWidget::moveEvent(event);
-  if (screen_.IsPopup() || !painted_ || !isVisible() || isMinimized()) return;
+  if (screen_.IsPopup() || !painted_ || !isVisible() || isMinimized() || isFullScreen()) return;
   // The window system may round a place.
   constexpr int kRounding = 2;
   if ((pos() - placed_at_).manhattanLength() > kRounding) moved_by_user_ = true;
@@ -292,6 +342,7 @@ void ScreenWindow::resizeEvent(QResizeEvent* event) {
   // What a screen shows may change its size between its showing and its being seen.
   if (isVisible() && !painted_) Place();
   if (has_shadow_ || screen_.border() != Screen::Border::kNone) return;
+  if (isFullScreen()) return clearMask();
   // Without a compositor nothing can be half transparent: the corners are cut instead.
   QPainterPath outline;
   outline.addRoundedRect(rect(), kWindowCorner, kWindowCorner);

@@ -32,7 +32,16 @@ class ScreenWindow : public QWidget {
   // Moves the window with the mouse, whose button is down on it, until the button is let go.
   void StartDrag();
 
+  // Takes the present zoom and the present state of the stage.
+  void Refit();
+
   ScreenForm& form() const { return *form_; }
+
+ signals:
+  // The user asks for larger (1) or smaller (-1) letters, or for the usual ones (0).
+  void ZoomWanted(int steps);
+  // The user asks for the whole desktop, or for a window again.
+  void FullScreenWanted();
 
  protected:
   void changeEvent(QEvent* event) override;
@@ -47,9 +56,13 @@ class ScreenWindow : public QWidget {
  private:
   void MakeFrameless();
   void OfferWayOut();
+  void OfferComfort();
   void Help();
   void LeaveProgram();
   void Appear(QWidget* opener);
+  void ShowInState();
+  bool FillsDesktop() const;
+  void FitSize();
   void Place();
   void FitShadow();
   int TitleBar() const;

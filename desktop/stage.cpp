@@ -60,6 +60,16 @@ QRect Stage::ForPopup(QSize size, const QRect& opener) const {
   return Inside(place, room);
 }
 
+void Stage::BeginAround(const QPoint& center) {
+  if (QGuiApplication::screenAt(center) == nullptr) return;
+  moved_ = true;
+  centre_ = center;
+}
+
+std::optional<QPoint> Stage::MovedTo() const {
+  return moved_ ? std::optional(centre_.toPoint()) : std::nullopt;
+}
+
 void Stage::MoveTo(const QRect& window) {
   moved_ = true;
   centre_ = QRectF(window).center();

@@ -3,6 +3,7 @@
 #include <QPoint>
 #include <QRect>
 #include <QSize>
+#include <optional>
 
 namespace frostmark {
 
@@ -24,6 +25,13 @@ class Stage {
 
   // The user has dragged a main screen there.
   void MoveTo(const QRect& window);
+  // Begins around CENTER, if there still is a screen.
+  void BeginAround(const QPoint& center);
+  // The middle of the main screens, once the user has moved it.
+  std::optional<QPoint> MovedTo() const;
+
+  // Whether main screens cover the whole desktop.
+  bool full_screen = false;
 
  private:
   bool moved_ = false;

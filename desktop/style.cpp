@@ -5,9 +5,11 @@
 #include <QFile>
 #include <QFont>
 #include <QGridLayout>
+#include <QList>
 #include <QPalette>
 #include <QScreen>
 #include <QStyleFactory>
+#include <QVariant>
 #include <QWidget>
 #include <algorithm>
 #include <utility>
@@ -93,6 +95,35 @@ QPalette Colours() {
   return colours;
 }
 
+// What Designer has said of LAYOUT: its margins, then its spaces across and down.
+QList<int> DesignedSpaces(QLayout& layout) {
+  static constexpr const char* kDesigned = "look_designed_spaces";
+  const QVariant known = layout.property(kDesigned);
+  if (known.isValid()) return known.value<QList<int>>();
+  const QMargins margins = layout.contentsMargins();
+  const auto* grid = qobject_cast<QGridLayout*>(&layout);
+  const QList<int> spaces = {margins.left(),
+                             margins.top(),
+                             margins.right(),
+                             margins.bottom(),
+                             grid != nullptr ? grid->horizontalSpacing() : layout.spacing(),
+                             grid != nullptr ? grid->verticalSpacing() : layout.spacing()};
+  layout.setProperty(kDesigned, QVariant::fromValue(spaces));
+  return spaces;
+}
+
+void ZoomLayout(QLayout& layout) {
+  QList<int> spaces = DesignedSpaces(layout);
+  for (int& space : spaces) space = qRound(space * zoom_now);
+  layout.setContentsMargins(spaces[0], spaces[1], spaces[2], spaces[3]);
+  if (auto* grid = qobject_cast<QGridLayout*>(&layout)) {
+    grid->setHorizontalSpacing(spaces[4]);
+    grid->setVerticalSpacing(spaces[5]);
+  } else {
+    layout.setSpacing(spaces[4]);
+  }
+}
+
 }  // namespace
 
 QString StyleSheet() {
@@ -112,30 +143,18 @@ QString StyleSheet() {
 
 double Zoom() { return zoom_now; }
 
-double FittingZoom() {
+double FittingZoom(double wanted) {
   // Hardly read any more, but all of it can still be reached.
   constexpr double kLeast = 0.3;
   const QSize room = QGuiApplication::primaryScreen()->availableSize();
   const QSize stage = Stage::Size(PlainPoints());
   return std::clamp(std::min(static_cast<double>(room.width()) / stage.width(),
                              static_cast<double>(room.height()) / stage.height()),
-                    kLeast, 1.0);
+                    kLeast, std::max(wanted, kLeast));
 }
 
 void ZoomLayouts(const QWidget& form) {
-  if (zoom_now == 1) return;
-  const auto zoomed = [](int space) { return qRound(space * zoom_now); };
-  for (auto* layout : form.findChildren<QLayout*>()) {
-    const QMargins margins = layout->contentsMargins();
-    layout->setContentsMargins(zoomed(margins.left()), zoomed(margins.top()),
-                               zoomed(margins.right()), zoomed(margins.bottom()));
-    if (auto* grid = qobject_cast<QGridLayout*>(layout)) {
-      grid->setHorizontalSpacing(zoomed(grid->horizontalSpacing()));
-      grid->setVerticalSpacing(zoomed(grid->verticalSpacing()));
-    } else {
-      layout->setSpacing(zoomed(layout->spacing()));
-    }
-  }
+  for (auto* layout : form.findChildren<QLayout*>()) ZoomLayout(*layout);
 }
 
 void DressApplication(double zoom) {

@@ -15,11 +15,12 @@ void DressApplication(double zoom = 1);
 // What it was last dressed with.
 double Zoom();
 
-// The zoom at which a main screen has room on the desktop: 1, or less where the desktop is small or
-// the user's font large.
-double FittingZoom();
+// The zoom for somebody who wants WANTED times the usual size: less where the desktop is small or
+// the user's font large, so that a main screen has room on it.
+double FittingZoom(double wanted = 1);
 
-// Gives the spaces of the layouts on FORM, which are pixels in Designer, the present zoom.
+// Gives the spaces of the layouts on FORM, which are pixels in Designer, the present zoom. May be
+// called again after another.
 void ZoomLayouts(const QWidget& form);
 
 }  // namespace frostmark

@@ -45,14 +45,34 @@ class PanelOpening : public QObject {
   bool opened_ = false;
 };
 
+// Keeps the menu below the game's name, which is as large as its picture, whatever the letters are.
+class NameRoom : public QObject {
+ public:
+  explicit NameRoom(TitleScene& scene) : QObject(&scene), scene_(scene) {
+    scene.installEventFilter(this);
+    Keep();
+  }
+
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() == QEvent::StyleChange || event->type() == QEvent::FontChange) Keep();
+    return false;
+  }
+
+ private:
+  void Keep() {
+    static_cast<QGridLayout*>(scene_.layout())
+        ->setRowMinimumHeight(0, TitleScene::NameHeight(Stage::Size().height()));
+  }
+
+  TitleScene& scene_;
+};
+
 }  // namespace
 
 void DecorateStartup(const Startup& screen, ScreenForm& form) {
   KeepPlaceWhenHidden(Part<QWidget>(form, "HighButton4"));
   KeepPlaceWhenHidden(Part<QWidget>(form, "HighButton5"));
-  auto& scene = Part<TitleScene>(form, "look_scene");
-  static_cast<QGridLayout*>(scene.layout())
-      ->setRowMinimumHeight(0, TitleScene::NameHeight(Stage::Size().height()));
+  new NameRoom(Part<TitleScene>(form, "look_scene"));
   ShowPlayers(Part<ListView>(form, "List1"));
   ShowPlayers(Part<ListView>(form, "List2"));
   new PanelOpening(Part<QWidget>(form, "Frame1"));

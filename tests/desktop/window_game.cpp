@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QSettings>
 
 #include "tests/desktop/person.h"
 
@@ -23,6 +24,11 @@ void QuickDesktop::Yield() {
 void QuickDesktop::WaitFor(std::chrono::microseconds at_most) {
   now_ += at_most;
   QtDesktop::WaitFor(std::chrono::microseconds::zero());
+}
+
+void KeepPreferencesApart() {
+  static const QTemporaryDir folder;
+  QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
 }
 
 WindowGame::WindowGame() {

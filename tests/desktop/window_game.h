@@ -46,6 +46,10 @@ class QuickDesktop : public QtDesktop {
   int exit_code_ = -1;
 };
 
+// Keeps what the desktop remembers of its user away from that of the person at the machine, in a
+// folder of the run's own.
+void KeepPreferencesApart();
+
 // A whole game in windows, in a folder of its own with the empty league folders.
 class WindowGame {
  public:

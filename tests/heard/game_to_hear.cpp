@@ -15,6 +15,7 @@ int main(int argc, char** argv) {
 
   QApplication application(argc, argv);
   QApplication::setApplicationName("Frostmark");
+  test::KeepPreferencesApart();
   DressApplication(FittingZoom());
 
   test::WindowGame game;

@@ -6,6 +6,7 @@
 #include <cstdlib>
 
 #include "desktop/style.h"
+#include "tests/desktop/window_game.h"
 #include "tests/windows/x_server.h"
 
 // One X server for all tests of the run, as large as FROSTMARK_TEST_SCREEN says, for a user
@@ -23,6 +24,7 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "xcb");
   QApplication application(argc, argv);
   QApplication::setApplicationName("Frostmark");
+  frostmark::test::KeepPreferencesApart();
   if (const char* points = std::getenv("FROSTMARK_TEST_FONT")) {
     QFont users = QApplication::font();
     users.setPointSizeF(std::atof(points));
