@@ -5,7 +5,7 @@
 # Rolls that are the same in every run, so that each operation has one outcome: everybody gains one.
 ones=$(printf '1 %.0s' {1..32000})
 
-takes_up() { printf 'click Startup.HighButton2\nclick Startup.HighButton5\n'; }
+resumes() { printf 'click Startup.HighButton2\nclick Startup.HighButton5\n'; }
 
 # begins NAME: a franchise of that team, whether there is a world already or not.
 begins() {
@@ -26,11 +26,7 @@ look() {
 }
 
 # lay_out WORLD: the empty folders of an installation.
-lay_out() {
-  local rank
-  for rank in A B C D E F; do mkdir -p "$1/Teams/Rank $rank"; done
-  mkdir -p "$1/Settings"
-}
+lay_out() { "$console" --fresh --app-path "$1" /dev/null; }
 
 # make_third WORLD: a franchise that stands at its third week, saved.
 make_third() {
