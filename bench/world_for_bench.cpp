@@ -1,7 +1,7 @@
 #include "bench/world_for_bench.h"
 
 namespace frostmark {
-WorldForBench::WorldForBench() : program_(std::make_unique<Program>(desktop_, dice_, Folder())) {
+WorldForBench::WorldForBench() : program_(std::make_unique<Program>(front_end_, dice_, Folder())) {
   program_->Start();
   program_->startup.PressNew();
   program_->startup.PressGenerate();

@@ -5,8 +5,8 @@
 
 #include "program/program.h"
 #include "records/dice.h"
+#include "tests/support/scripted_front_end.h"
 #include "tests/support/temporary_world.h"
-#include "ui/headless_desktop.h"
 
 namespace frostmark {
 
@@ -17,7 +17,7 @@ class WorldForBench {
   WorldForBench();
 
   const std::string& Folder() const { return folder_.path(); }
-  HeadlessDesktop& desktop() { return desktop_; }
+  test::ScriptedFrontEnd& front_end() { return front_end_; }
   Program& program() { return *program_; }
 
   // Plays the games of one week, whatever it is, without watching any.
@@ -25,7 +25,7 @@ class WorldForBench {
 
  private:
   test::TemporaryWorld folder_;
-  HeadlessDesktop desktop_;
+  test::ScriptedFrontEnd front_end_;
   ClockDice dice_;
   std::unique_ptr<Program> program_;
 };

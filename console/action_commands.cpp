@@ -120,7 +120,7 @@ void Close(Console& console, Words& words) {
   if (screen == nullptr) throw Refusal{name + " is no screen"};
   if (!screen->Visible()) throw Refusal{name + " is hidden"};
   if (screen->on_close() == Screen::OnClose::kHides) screen->Hide();
-  if (screen->on_close() == Screen::OnClose::kEndsProgram) console.desktop.EndProgram();
+  if (screen->on_close() == Screen::OnClose::kEndsProgram) console.front_end.EndProgram();
 }
 
 constexpr std::array<Command, 9> kCommands = {{

@@ -1,5 +1,5 @@
 // The message boxes and input boxes of the console.
-#include "console/console_desktop.h"
+#include "console/console_front_end.h"
 
 namespace frostmark {
 namespace {
@@ -31,8 +31,15 @@ bool Means(const std::string& text, const std::string& word) {
 
 }  // namespace
 
+std::optional<std::string> ConsoleFrontEnd::TakeAnswer() {
+  if (answers_.empty()) return std::nullopt;
+  std::string answer = std::move(answers_.front());
+  answers_.pop_front();
+  return answer;
+}
+
 // A person reads the text in the lines that it has.
-void ConsoleDesktop::PrintBox(std::string_view text) {
+void ConsoleFrontEnd::PrintBox(std::string_view text) {
   std::size_t end = text.find('\n');
   while (interactive_ && end != std::string_view::npos) {
     transcript_.Line(text.substr(0, end));
@@ -42,18 +49,18 @@ void ConsoleDesktop::PrintBox(std::string_view text) {
   transcript_.Line(text);
 }
 
-Answer ConsoleDesktop::ShowBox(const MessageBox& box) {
+Answer ConsoleFrontEnd::ShowBox(const MessageBox& box) {
   PrintBox(std::string("box ") + IconWord(box.icon) + " " + ButtonWords(box.buttons) + ": " +
            box.text);
   if (box.buttons == BoxButtons::kOk) {
-    if (!Answers().empty() && Answers().front() == "ok") {
+    if (!answers_.empty() && answers_.front() == "ok") {
       TakeAnswer();
     } else if (interactive_) {
       AskPerson("Enter goes on> ");
     }
     return Answer::kOk;
   }
-  if (Answers().empty() && interactive_) return AskPersonBox();
+  if (answers_.empty() && interactive_) return AskPersonBox();
   const auto answer = TakeAnswer();
   if (answer == "yes") return Answer::kYes;
   if (answer == "no") return Answer::kNo;
@@ -62,15 +69,15 @@ Answer ConsoleDesktop::ShowBox(const MessageBox& box) {
   return Answer::kNo;
 }
 
-std::string ConsoleDesktop::AskText(const std::string& prompt) {
+std::string ConsoleFrontEnd::AskText(const std::string& prompt) {
   transcript_.Line("ask: " + prompt);
-  if (Answers().empty() && interactive_) return AskPerson("answer (empty cancels)> ").value_or("");
+  if (answers_.empty() && interactive_) return AskPerson("answer (empty cancels)> ").value_or("");
   const auto answer = TakeAnswer();
   if (!answer) transcript_.Refuse("no answer for the question: " + prompt);
   return !answer || answer == "cancel" ? "" : *answer;
 }
 
-std::optional<std::string> ConsoleDesktop::AskPerson(const char* prompt) {
+std::optional<std::string> ConsoleFrontEnd::AskPerson(const char* prompt) {
   if (!script_.Input().ShowPrompt(prompt)) transcript_.Prompt(prompt);
   transcript_.Flush();
   std::string line;
@@ -79,7 +86,7 @@ std::optional<std::string> ConsoleDesktop::AskPerson(const char* prompt) {
   return std::nullopt;
 }
 
-Answer ConsoleDesktop::AskPersonBox() {
+Answer ConsoleFrontEnd::AskPersonBox() {
   for (;;) {
     const auto answer = AskPerson("yes or no> ");
     if (!answer || Means(*answer, "no")) return Answer::kNo;

@@ -18,11 +18,11 @@ Console::Console(const Options& options, Transcript& printed, ScriptStack& comma
                  bool interactive)
     : transcript(printed),
       script(commands),
-      desktop(printed, commands, ClockFor(options, interactive), interactive),
+      front_end(printed, commands, ClockFor(options, interactive), interactive),
       dice(printed),
-      program(desktop, dice, options.app_path),
+      program(front_end, dice, options.app_path),
       names(program) {
-  desktop.SetCommands(this);
+  front_end.SetCommands(this);
   if (interactive) prompt_ = std::make_unique<Prompt>(program, names, transcript, commands);
 }
 
@@ -40,7 +40,7 @@ int Console::Run() {
 void Console::RunCommands() {
   try {
     program.Start();
-    for (;;) desktop.Step();
+    for (;;) front_end.Step();
   } catch (const ConsoleEnded&) {
   } catch (const ProgramEnded&) {
   }

@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-#include "console/console_desktop.h"
 #include "console/console_dice.h"
+#include "console/console_front_end.h"
 #include "console/names.h"
 #include "console/options.h"
 #include "console/prompt.h"
@@ -18,7 +18,7 @@ namespace frostmark {
 // The text front end: one game, driven by command lines. Run goes through the whole input; while a
 // procedure of the game waits, commands run on top of its stack, so the frames between a command
 // and the handler that it raises are kept small.
-class Console : private ConsoleDesktop::Commands {
+class Console : private ConsoleFrontEnd::Commands {
  public:
   // PRINTED and COMMANDS outlive the console. INTERACTIVE: a person sits in front of it.
   Console(const Options& options, Transcript& printed, ScriptStack& commands, bool interactive);
@@ -29,7 +29,7 @@ class Console : private ConsoleDesktop::Commands {
 
   Transcript& transcript;
   ScriptStack& script;
-  ConsoleDesktop desktop;
+  ConsoleFrontEnd front_end;
   ConsoleDice dice;
   Program program;
   Names names;

@@ -64,8 +64,8 @@ void Stats(Console& console, Words& words) {
   words.ExpectEnd();
   const Ordvik::Counts& counts = console.program.ordvik.counts();
   console.transcript.Line("stats: rolls " + std::to_string(counts.rolls) + " yields " +
-                          std::to_string(console.desktop.Yields()) + " waits " +
-                          std::to_string(console.desktop.Waits()) + " reads " +
+                          std::to_string(console.front_end.Yields()) + " waits " +
+                          std::to_string(console.front_end.Waits()) + " reads " +
                           std::to_string(counts.file_reads) + " writes " +
                           std::to_string(counts.file_writes));
 }

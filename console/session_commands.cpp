@@ -21,7 +21,7 @@ void Wait(Console& console, Words& words) {
   if (!IsNumeric(text) || seconds < 0 || seconds > kLongestWait) {
     throw Refusal{"no time to wait: " + text};
   }
-  console.desktop.LetTimePass(HeadlessDesktop::Time(std::llround(seconds * 1e6)));
+  console.front_end.LetTimePass(ConsoleFrontEnd::Time(std::llround(seconds * 1e6)));
 }
 
 std::function<bool()> StateCondition(const Named& named, const std::string& word) {
@@ -44,7 +44,7 @@ void Until(Console& console, Words& words) {
     std::string text(words.Rest());
     if (!TextOf(named)) throw Refusal{name + " has no text"};
     const std::string what = name + " = " + text;
-    console.desktop.LetTimePassUntil(
+    console.front_end.LetTimePassUntil(
         [named, text = std::move(text)] { return TextOf(named) == text; }, what);
     return;
   }
@@ -52,17 +52,17 @@ void Until(Console& console, Words& words) {
   if (word != "visible" && word != "hidden" && word != "enabled" && word != "disabled") {
     throw Refusal{word + " is no condition"};
   }
-  console.desktop.LetTimePassUntil(StateCondition(named, word), name + " " + word);
+  console.front_end.LetTimePassUntil(StateCondition(named, word), name + " " + word);
 }
 
 void QueueAnswer(Console& console, Words& words) {
-  console.desktop.QueueAnswer(std::string(words.Rest()));
+  console.front_end.QueueAnswer(std::string(words.Rest()));
 }
 
 void ForgetAnswers(Console& console, Words& words) {
   if (words.Next("none") != "none") throw Refusal{"answers knows only none"};
   words.ExpectEnd();
-  console.desktop.ForgetAnswers();
+  console.front_end.ForgetAnswers();
 }
 
 void QueueRolls(Console& console, Words& words) {
@@ -116,7 +116,7 @@ void Clear(Console& console, Words& words) {
 
 void Soon(Console& console, Words& words) {
   if (words.AtEnd()) throw Refusal{"a command is missing"};
-  console.desktop.RunAtYield(words.Rest());
+  console.front_end.RunAtYield(words.Rest());
 }
 
 void Exit(Console& /*console*/, Words& words) {

@@ -3,7 +3,7 @@
 #include <QMessageBox>
 #include <string>
 
-#include "ui/desktop.h"
+#include "ui/front_end.h"
 
 namespace frostmark {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <utility>
 
-#include "ui/desktop.h"
+#include "ui/front_end.h"
 
 namespace frostmark {
 

@@ -6,7 +6,7 @@
 
 #include "desktop/boxes.h"
 #include "desktop/preferences.h"
-#include "desktop/qt_desktop.h"
+#include "desktop/qt_front_end.h"
 #include "desktop/style.h"
 #include "program/program.h"
 #include "records/dice.h"
@@ -42,18 +42,18 @@ int main(int argc, char** argv) {
   const frostmark::WorldClaim claim(folder.toStdString(), frostmark::WorldClaim::Answers::kYes);
   if (claim.Taken()) return LeaveItToTheOther(claim);
 
-  frostmark::QtDesktop desktop;
-  desktop.TakePreferences();
+  frostmark::QtFrontEnd front_end;
+  front_end.TakePreferences();
   frostmark::ClockDice dice;
-  frostmark::Program program(desktop, dice, folder.toStdString());
+  frostmark::Program program(front_end, dice, folder.toStdString());
   std::optional<QSocketNotifier> knocks;
   if (claim.Door() >= 0) {
     knocks.emplace(claim.Door(), QSocketNotifier::Read);
     QObject::connect(&*knocks, &QSocketNotifier::activated, &application, [&] {
       claim.TakeKnocks();
-      desktop.ComeToFront();
+      front_end.ComeToFront();
     });
   }
-  desktop.guard().Call([&] { program.Start(); });
+  front_end.guard().Call([&] { program.Start(); });
   return QApplication::exec();
 }

@@ -56,7 +56,7 @@ void CrownChampion(Program& program) {
   Franchise& franchise = program.franchise;
   const std::string winner = TeamAt(franchise.StatRankA, kWinner);
   if (winner == franchise.TeamName.Caption()) {
-    program.desktop.ShowBox(
+    program.front_end.ShowBox(
         {BoxIcon::kInformation, BoxButtons::kOk, "Congrats! You are the best in all the leagues!"});
     // As it stands: 2.5 gives 3.5.
     franchise.Champion.SetCaption(NumberText(LenientNumber(franchise.Champion.Caption()) + 1));
@@ -103,12 +103,12 @@ void Franchise::theOffSeason() {
     results.crossed[border] = moves.Crossed(border);
   }
 
-  CopyTable(program_.desktop, StatRankA, results.List1);
-  CopyTable(program_.desktop, StatRankB, results.List2);
-  CopyTable(program_.desktop, StatRankC, results.List3);
-  CopyTable(program_.desktop, StatRankD, results.List4);
-  CopyTable(program_.desktop, StatRankE, results.List5);
-  CopyTable(program_.desktop, StatRankF, results.List6);
+  CopyTable(program_.front_end, StatRankA, results.List1);
+  CopyTable(program_.front_end, StatRankB, results.List2);
+  CopyTable(program_.front_end, StatRankC, results.List3);
+  CopyTable(program_.front_end, StatRankD, results.List4);
+  CopyTable(program_.front_end, StatRankE, results.List5);
+  CopyTable(program_.front_end, StatRankF, results.List6);
   Season.SetCaption(WholeNumberText(std::floor(LenientNumber(Season.Caption())) + 1));
   NextWeek.SetCaption("Draft");
   results.Show();

@@ -65,7 +65,7 @@ void Franchise::TrainThem(RecordList& list, const std::string& path) {
     if (NextWeek.Caption() == kLastWeek) {
       list.SetList(i, program_.hockey_naming.SetField(list.List(i), "Age", "1"));
     }
-    program_.desktop.Yield();
+    program_.front_end.Yield();
   }
   // The user picks their own lines. A team whose path holds their team's name counts as theirs.
   if (!Ordvik::ContainsText(1, path, TeamName.Caption())) {

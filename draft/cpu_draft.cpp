@@ -30,7 +30,7 @@ std::string ReleasePlayer(Program& program) {
   double age = 0;
   do {
     --leaver;
-    program.desktop.Yield();
+    program.front_end.Yield();
     if (leaver < 0) throw RuntimeError("Invalid list index: " + std::to_string(leaver));
     age = LenientNumber(FieldView(roster.List(leaver), Field::kAge));
   } while (leaver != kLastSafe && age < kGrownUp);
@@ -44,7 +44,7 @@ std::string ReleasePlayer(Program& program) {
 // Takes one player of a computer's team out of tempList and returns the leaver's Training.
 std::string PartWithPlayer(Program& program) {
   FDraft& draft = program.f_draft;
-  const int retiring = RollRetirement(program.ordvik, program.desktop, draft.tempList);
+  const int retiring = RollRetirement(program.ordvik, program.front_end, draft.tempList);
   if (retiring < 0) return ReleasePlayer(program);
   const std::string record = draft.tempList.List(retiring);
   draft.Events.AddItem(FormatRetirement(record, draft.CurTeam.Caption()));
@@ -62,7 +62,7 @@ void Refill(Program& program, std::string_view training) {
     for (std::size_t p = 0; p < kDraftOrder.size(); ++p) {
       if (FieldView(draft.tempList.List(i), Field::kPosition) == kDraftOrder[p]) ++players[p];
     }
-    program.desktop.Yield();
+    program.front_end.Yield();
   }
   for (std::size_t p = 0; p < kDraftOrder.size(); ++p) {
     const bool goalie = kDraftOrder[p] == std::string_view("GO");
@@ -101,7 +101,7 @@ void FDraft::RunDraft() {
       if (CurTeam.Caption() == program_.franchise.TeamName.Caption()) {
         AwaitingPick = true;
         StartPlayerTurn();
-        while (AwaitingPick) program_.desktop.Wait();
+        while (AwaitingPick) program_.front_end.Wait();
       } else {
         TakeComputersTurn(program_);
       }
@@ -110,7 +110,7 @@ void FDraft::RunDraft() {
       ordvik.SaveListFile(tempList, path);
       ordvik.WaitSeconds(kPause);
       --team;
-      program_.desktop.Yield();
+      program_.front_end.Yield();
     } while (team != -1);
   }
   Command1.Enable();

@@ -20,7 +20,7 @@ void FDraft::StartPlayerTurn() {
   FSelectDraft& choice = program_.f_select_draft;
   choice.List1.Clear();
   choice.List2.Clear();
-  const int retiring = RollRetirement(program_.ordvik, program_.desktop, tempList);
+  const int retiring = RollRetirement(program_.ordvik, program_.front_end, tempList);
   if (retiring >= 0) {
     const std::string record = tempList.List(retiring);
     Events.AddItem(FormatRetirement(record, CurTeam.Caption()));
@@ -32,7 +32,7 @@ void FDraft::StartPlayerTurn() {
   for (int i = 0; i < count; ++i) {
     choice.List1.AddItem(FormatRosterLine(tempList.List(i)));
     choice.List2.AddItem(tempList.List(i));
-    program_.desktop.Yield();
+    program_.front_end.Yield();
   }
   SetPoolEnabled(false);
   choice.Show();
@@ -40,7 +40,7 @@ void FDraft::StartPlayerTurn() {
 
 void FDraft::PickFromPool(ListPair& list) {
   if (!AwaitingPick) return;  // in the others' turns the lists are only for browsing
-  const Answer answer = program_.desktop.ShowBox(
+  const Answer answer = program_.front_end.ShowBox(
       {BoxIcon::kQuestion, BoxButtons::kYesNo,
        "Add this player to your squad?\n" + list.shown.List(list.shown.ListIndex())});
   if (answer != Answer::kYes) return;
@@ -56,7 +56,7 @@ void FDraft::PickFromPool(ListPair& list) {
 
 void FSelectDraft::ReleaseSelected() {
   FDraft& draft = program_.f_draft;
-  const Answer answer = program_.desktop.ShowBox(
+  const Answer answer = program_.front_end.ShowBox(
       {BoxIcon::kQuestion, BoxButtons::kYesNo,
        "You sure you'd like to delete this player?\n" + List1.List(List1.ListIndex())});
   if (answer != Answer::kYes) return;

@@ -24,7 +24,7 @@ void RollProspects(Program& program, ListPair& list, const char* position) {
     const std::string name = naming.GenPlayerName();
     naming.GenPlayerRatings(position, true);
     list.records.AddItem(naming.GeneratedRecord(name, position, "N"));
-    program.desktop.Yield();
+    program.front_end.Yield();
   }
 }
 
@@ -39,7 +39,7 @@ void FResults::PressDraft() {
   }
   for (ListPair* list : draft.Pool()) {
     HockeyNaming::SortByOverall(list->records);
-    ShowPoolLines(program_.desktop, *list);
+    ShowPoolLines(program_.front_end, *list);
   }
   draft.Show();
   Hide();
@@ -51,7 +51,7 @@ void FDraft::AddDraftee(std::string& record) {
     list->records.AddItem(record);
     list->shown.Clear();
     HockeyNaming::SortByOverall(list->records);
-    ShowPoolLines(program_.desktop, *list);
+    ShowPoolLines(program_.front_end, *list);
   }
   record.clear();
 }

@@ -17,7 +17,7 @@ void ChooseTeam(Ordvik& ordvik, const FileListBox& teams, ListBox& roster) {
 
 void Begin(Program& program) {
   const auto refuse = [&](const char* text) {
-    program.desktop.ShowBox({BoxIcon::kStop, BoxButtons::kOk, text});
+    program.front_end.ShowBox({BoxIcon::kStop, BoxButtons::kOk, text});
   };
   FStartGame& choice = program.f_start_game;
   // The left column is asked for as the visitor and the right one as the home team, although the

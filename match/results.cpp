@@ -23,7 +23,7 @@ void WatchGame(Program& program, const std::string& name1, const std::string& na
     label->SetCaption("");
   }
   // The game runs in these waits, and its Close button leaves the scores.
-  while (game.FranchiseMatch) program.desktop.Wait();
+  while (game.FranchiseMatch) program.front_end.Wait();
 }
 
 void SimulateUnwatched(Program& program) {
@@ -107,14 +107,14 @@ void Franchise::SetStandings(RecordList& list, const std::string& name1, const s
       list.SetList(i, HockeyNaming::CountResult(list.List(i), tie ? "Tie" : "Win"));
       break;
     }
-    program_.desktop.Yield();
+    program_.front_end.Yield();
   }
   const int count_again = list.ListCount();
   for (int i = 0; i < count_again; ++i) {
     if (Ordvik::ContainsText(1, list.List(i), second)) {
       list.SetList(i, HockeyNaming::CountResult(list.List(i), tie ? "Tie" : "Lose"));
     }
-    program_.desktop.Yield();
+    program_.front_end.Yield();
   }
 }
 
@@ -125,7 +125,7 @@ void Franchise::TrimAlerts() {
   const int count = Alerts.ListCount();
   for (int i = 0; i < count; ++i) {
     if (i >= kNewsKept && !Alerts.List(i).empty()) Alerts.RemoveItem(i);
-    program_.desktop.Yield();
+    program_.front_end.Yield();
   }
 }
 

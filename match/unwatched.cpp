@@ -47,7 +47,7 @@ void NotePasser(Program& program) {
     if (Plays(line.List(i), game.PuckPosition)) {
       game.PasserName = FieldView(game.PuckCarrier, Field::kName);
     }
-    program.desktop.Yield();
+    program.front_end.Yield();
   }
 }
 
@@ -57,7 +57,7 @@ void PassAlong(Program& program) {
   const int count = line.ListCount();
   for (int i = 0; i < count; ++i) {
     if (Plays(line.List(i), game.PuckPosition)) game.PuckCarrier = line.List(i);
-    program.desktop.Yield();
+    program.front_end.Yield();
   }
 }
 
@@ -70,7 +70,7 @@ void MeetDefender(Program& program, std::string_view position, Int16& defense) {
       game.Defender = line.List(i);
       defense = Rating(game.Defender, Field::kDefense);
     }
-    program.desktop.Yield();
+    program.front_end.Yield();
   }
 }
 
@@ -84,15 +84,15 @@ void GameSimulation::LoadGameLines(const RecordList& list1, const RecordList& li
   lists.Line2Stats.Clear();
   GoalsTeam1 = 0;
   GoalsTeam2 = 0;
-  CopyLeadLine(program_.desktop, list1, lists.Line1Stats);
-  CopyLeadLine(program_.desktop, list2, lists.Line2Stats);
+  CopyLeadLine(program_.front_end, list1, lists.Line1Stats);
+  CopyLeadLine(program_.front_end, list2, lists.Line2Stats);
 }
 
 void GameSimulation::SimulateGame() {
   FaceOff();
   for (int step = 0; step < kStepsOfGame; ++step) {
     PlayStep();
-    program_.desktop.Yield();
+    program_.front_end.Yield();
   }
   // A level score stays a tie, and a possession under way is dropped.
   program_.franchise.Score1 = GoalsTeam1;
@@ -111,7 +111,7 @@ void GameSimulation::LoadIceLists() {
   for (int i = leading.ListCount() - 1; i >= 0; --i) {
     first.AddItemOf(lists.Line1Stats, i);
     second.AddItemOf(lists.Line2Stats, i);
-    program_.desktop.Yield();
+    program_.front_end.Yield();
   }
 }
 
@@ -137,11 +137,11 @@ void GameSimulation::FaceOff() {
   std::string centre2 = std::exchange(spare_centres_[1], {});
   centre1.clear();
   centre2.clear();
-  FindPlayer(program_.desktop, line1, "CF", centre1);
-  FindPlayer(program_.desktop, line2, "CF", centre2);
+  FindPlayer(program_.front_end, line1, "CF", centre1);
+  FindPlayer(program_.front_end, line2, "CF", centre2);
   // A line without a centre sends its right forward; one without either sends nobody.
-  if (centre1.empty()) FindPlayer(program_.desktop, line1, "RF", centre1);
-  if (centre2.empty()) FindPlayer(program_.desktop, line2, "RF", centre2);
+  if (centre1.empty()) FindPlayer(program_.front_end, line1, "RF", centre1);
+  if (centre2.empty()) FindPlayer(program_.front_end, line2, "RF", centre2);
   const bool first_wins = program_.ordvik.RollUpTo(kToss) == 1;
   PuckCarrier = first_wins ? centre1 : centre2;
   spare_centres_[0] = std::move(centre1);

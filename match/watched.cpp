@@ -82,7 +82,7 @@ void Game::LoadIceLists() {
   for (int i = leading.ListCount() - 1; i >= 0; --i) {
     first.AddItem(Line1Stats.List(i));
     second.AddItem(Line2Stats.List(i));
-    program_.desktop.Yield();
+    program_.front_end.Yield();
   }
 }
 
@@ -93,16 +93,16 @@ void Game::PlayStep() {
   if (PassesLeft == kShotDue) return ShotStep();
   const int side = program_.ordvik.RollUpTo(kToss);
   // An empty carrier passes like anybody else here: the crowd sees a pass from no one.
-  NotePasser(*this, program_.desktop);
+  NotePasser(*this, program_.front_end);
   AimPass(program_.ordvik, side, PuckPosition);
-  PassAlong(*this, program_.desktop, Play::kPass);
+  PassAlong(*this, program_.front_end, Play::kPass);
   PassesLeft -= 1;
 }
 
 // No right forward stands in for a missing centre here: that team's centre is nobody.
 void Game::FaceOff() {
-  const std::string centre1 = FindCentre(program_.desktop, Line1Stats);
-  const std::string centre2 = FindCentre(program_.desktop, Line2Stats);
+  const std::string centre1 = FindCentre(program_.front_end, Line1Stats);
+  const std::string centre2 = FindCentre(program_.front_end, Line2Stats);
   const bool first_wins = program_.ordvik.RollUpTo(kToss) == 1;
   PuckCarrier = first_wins ? centre1 : centre2;
   PuckTeam = first_wins ? 1 : 2;
@@ -113,9 +113,9 @@ void Game::FaceOff() {
 
 void Game::OutletStep() {
   LoadIceLists();
-  NotePasser(*this, program_.desktop);
+  NotePasser(*this, program_.front_end);
   AimOutletPass(program_.ordvik, Plays(Defender, "GO"), PuckPosition);
-  PassAlong(*this, program_.desktop, Play::kOutletPass);
+  PassAlong(*this, program_.front_end, Play::kOutletPass);
   PassesLeft = program_.ordvik.RollUpTo(kOutletPassesDie);
 }
 
@@ -125,14 +125,14 @@ void Game::ShotStep() {
   Int16 defense = 0;
   const char* const side = RollDefender(ordvik);
   DefenderPosition = side;
-  MeetDefender(*this, program_.desktop, side, defense);
+  MeetDefender(*this, program_.front_end, side, defense);
   const int shot = ordvik.RollUpTo(kShotDie);
   // A shot by nobody has no Shooting to read, and that ends the program.
   const int shooting = StrictInt16(FieldView(PuckCarrier, Field::kShooting));
   if (shot > shooting) return;
   if (ordvik.RollUpTo(kStealDie) <= defense) return TurnOver(Play::kSteal);
   ordvik.RollUpTo(kFlightDie);
-  MeetDefender(*this, program_.desktop, "GO", defense);
+  MeetDefender(*this, program_.front_end, "GO", defense);
   if (ordvik.RollUpTo(kSlipDie) > defense) return;
   if (ordvik.RollUpTo(kSaveDie) <= defense) return TurnOver(Play::kSave);
   ScoreGoal(*this);

@@ -4,11 +4,11 @@
 
 namespace frostmark {
 
-Program::Program(Desktop& desktop_of_user, Dice& dice, std::string app_path)
-    : desktop(desktop_of_user),
-      ordvik(desktop_of_user, dice, std::move(app_path)),
+Program::Program(FrontEnd& front_end_of_user, Dice& dice, std::string app_path)
+    : front_end(front_end_of_user),
+      ordvik(front_end_of_user, dice, std::move(app_path)),
       under_way(ordvik),
-      hockey_naming(*this, desktop_of_user, ordvik),
+      hockey_naming(*this, front_end_of_user, ordvik),
       game_simulation(*this),
       startup(*this),
       team_creator(*this),
@@ -19,7 +19,7 @@ Program::Program(Desktop& desktop_of_user, Dice& dice, std::string app_path)
       f_results(*this),
       f_draft(*this),
       f_select_draft(*this) {
-  desktop.Open(screens);
+  front_end.Open(screens);
 }
 
 void Program::Start() { startup.Show(); }

@@ -14,7 +14,7 @@
 #include "shell/f_player.h"
 #include "shell/franchise.h"
 #include "shell/startup.h"
-#include "ui/desktop.h"
+#include "ui/front_end.h"
 #include "world/team_creator.h"
 
 namespace frostmark {
@@ -24,7 +24,7 @@ namespace frostmark {
 class Program {
  public:
   // DESKTOP and DICE outlive the program. APP_PATH is the program's folder.
-  Program(Desktop& desktop, Dice& dice, std::string app_path);
+  Program(FrontEnd& front_end, Dice& dice, std::string app_path);
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;
 
@@ -38,7 +38,7 @@ class Program {
   // Forgets such moves: their teams are gone.
   void ForgetCutOffMoves();
 
-  Desktop& desktop;
+  FrontEnd& front_end;
   ScreenList screens;
 
   Ordvik ordvik;

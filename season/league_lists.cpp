@@ -16,7 +16,7 @@ void Franchise::LoadNewTeams() {
       if (File1.List(i) == TeamName.Caption()) MyRank.SetCaption(kRanks[league]);
       names.AddItem(File1.List(i));
       standings.AddItem(FormatFreshStandingsLine(File1.List(i)));
-      program_.desktop.Yield();
+      program_.front_end.Yield();
     }
   }
   LooseOrWin.SetCaption("");
@@ -31,7 +31,7 @@ void Franchise::LoadNewTeamsTwo() {
     const int count = File1.ListCount();
     for (int i = 0; i < count; ++i) {
       names.AddItem(File1.List(i));
-      program_.desktop.Yield();
+      program_.front_end.Yield();
     }
   }
   GetNextWeek();

@@ -19,7 +19,7 @@ void Franchise::GenSchedule() {
     for (int i = 0; i < count; ++i) {
       names.AddItem(File1.List(i));
       standings.AddItem(FormatFreshStandingsLine(File1.List(i)));
-      program_.desktop.Yield();
+      program_.front_end.Yield();
     }
   }
   for (ListBox* list : {&Team1, &Team2, &tempList, &LineList, &DefList, &Line1Stats, &Line2Stats}) {

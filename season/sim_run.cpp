@@ -22,10 +22,10 @@ std::string WithoutPrefix(std::string text) {
 
 void Franchise::PressSim() {
   const auto refuse = [this](const char* text) {
-    program_.desktop.ShowBox({BoxIcon::kStop, BoxButtons::kOk, text});
+    program_.front_end.ShowBox({BoxIcon::kStop, BoxButtons::kOk, text});
   };
   if (NextWeek.Caption() == "Off Season") return refuse("You can't simulate the off season!");
-  const std::string answer = program_.desktop.AskText("Simulate until which week?");
+  const std::string answer = program_.front_end.AskText("Simulate until which week?");
   if (!IsNumeric(answer)) return refuse("You must enter a valid number!");
   const double target = std::floor(LenientNumber(answer));
   // A marker without a number, as in a damaged save, counts as week 0. It is a week that no press
@@ -41,7 +41,7 @@ void Franchise::PressSim() {
   Command5.Show();
   do {
     PressBegin();
-    program_.desktop.Yield();
+    program_.front_end.Yield();
   } while (NextWeek.Caption() != target_marker && Command5.Visible());
   SimRunning = false;
   Command5.Hide();

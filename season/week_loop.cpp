@@ -16,14 +16,14 @@ bool LineUpAccepted(Program& program) {
     for (std::size_t p = 0; p < kRosterOrder.size(); ++p) {
       if (FieldView(line_up.List(i), Field::kPosition) == kRosterOrder[p]) ++players[p];
     }
-    program.desktop.Yield();
+    program.front_end.Yield();
   }
   if (std::count(players.begin(), players.end(), 0) > 0) {
-    program.desktop.ShowBox({BoxIcon::kStop, BoxButtons::kOk, "You are missing a position!"});
+    program.front_end.ShowBox({BoxIcon::kStop, BoxButtons::kOk, "You are missing a position!"});
     return false;
   }
   if (std::all_of(players.begin(), players.end(), [](int n) { return n == 1; })) return true;
-  const Answer answer = program.desktop.ShowBox(
+  const Answer answer = program.front_end.ShowBox(
       {BoxIcon::kInformation, BoxButtons::kYesNo,
        "You have too many players on your lineup.\nWould you like to move one to training?"});
   return answer != Answer::kYes;

@@ -14,7 +14,7 @@ void Startup::PressNew() {
   if (cut_off) {
     BuildLeague();
   } else if (File1.ListCount() == kTeamsInLeague) {
-    const Answer answer = program_.desktop.ShowBox(
+    const Answer answer = program_.front_end.ShowBox(
         {BoxIcon::kStop, BoxButtons::kYesNo,
          "There is already a loaded game in progress. Would you like to create a new game?\n"
          "Warning: Doing this will delete your last game."});
@@ -66,10 +66,10 @@ void Startup::PressBegin() {
 }
 
 void Startup::ClickWantedOverall() {
-  const std::string wanted = program_.desktop.AskText("Desired overall?");
+  const std::string wanted = program_.front_end.AskText("Desired overall?");
   do {
     PressGenerate();
-    program_.desktop.Yield();
+    program_.front_end.Yield();
   } while (Label8.Caption() != wanted);
 }
 

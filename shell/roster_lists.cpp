@@ -22,7 +22,7 @@ void Franchise::AddAllToRoster(const RecordList& list) {
   const int count = list.ListCount();
   for (int i = 0; i < count; ++i) {
     AddToRoster(list.List(i));
-    program_.desktop.Yield();
+    program_.front_end.Yield();
   }
 }
 

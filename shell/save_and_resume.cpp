@@ -33,7 +33,7 @@ void Franchise::SaveGame() {
     const int count = line->ListCount();
     for (int i = 0; i < count; ++i) {
       tempList.AddItem(line->List(i));
-      program_.desktop.Yield();
+      program_.front_end.Yield();
     }
   }
   ordvik.SaveListFile(tempList, UserTeamPath());
@@ -43,7 +43,7 @@ void Franchise::SaveGame() {
   ordvik.SaveListFile(Alerts, SavedFile(ordvik, Alerts), save);
   if (save.Commit()) program_.under_way.Saved();
   // Said in any case: no file operation tells how it went.
-  program_.desktop.ShowBox({BoxIcon::kInformation, BoxButtons::kOk, "File saved!"});
+  program_.front_end.ShowBox({BoxIcon::kInformation, BoxButtons::kOk, "File saved!"});
 }
 
 namespace {

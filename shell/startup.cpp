@@ -26,10 +26,10 @@ Startup::Startup(Program& program)
     HighButton4.SetVisible(show);
     HighButton5.SetVisible(show);
   };
-  HighButton3.OnClick = [this] { program_.desktop.EndProgram(); };
+  HighButton3.OnClick = [this] { program_.front_end.EndProgram(); };
   HighButton4.OnClick = [this] { PressNew(); };
   HighButton5.OnClick = [this] { PressLoad(); };
-  Label1.OnClick = [this] { program_.desktop.OpenWebPage(Label1.Caption()); };
+  Label1.OnClick = [this] { program_.front_end.OpenWebPage(Label1.Caption()); };
   Label2.OnClick = [this] { program_.team_creator.Show(); };
 
   HighButton7.OnClick = [this] { PressGenerate(); };

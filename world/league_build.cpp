@@ -72,21 +72,21 @@ bool BuildTeam(Program& program, const Band& band) {
   double overall = 0;
   do {
     creator.GenTeam();
-    program.desktop.Yield();
+    program.front_end.Yield();
     overall = LenientNumber(creator.Label7.Caption());
   } while (overall < band.weakest || overall > band.strongest);
   const std::string city = Draw(ordvik, program.startup.List3);
   const std::string team = city + " " + Draw(ordvik, program.startup.List4);
   const std::string path = ordvik.TeamPath(band.rank, team);
   ordvik.SaveListFile(creator.List1, path);
-  program.desktop.Yield();
+  program.front_end.Yield();
   return Ordvik::FileExists(path);
 }
 
 }  // namespace
 
 void Startup::BuildLeague() {
-  program_.desktop.ShowBox(
+  program_.front_end.ShowBox(
       {BoxIcon::kInformation, BoxButtons::kOk, "Please wait as this may take some time..."});
   for (const char* city : kCities) List3.AddItem(city);
   for (const char* nickname : kNicknames) List4.AddItem(nickname);
@@ -98,7 +98,7 @@ void Startup::BuildLeague() {
     const int count = File1.ListCount();
     for (int i = 0; i < count; ++i) {
       Ordvik::DeleteFile(program_.ordvik.TeamPath(rank, File1.List(i)));
-      program_.desktop.Yield();
+      program_.front_end.Yield();
     }
     if (!HoldsNoFile(program_.ordvik.RankFolder(rank))) whole = false;
   }

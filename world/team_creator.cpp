@@ -14,7 +14,7 @@ void MakePlayer(Program& program, int position, const char* training) {
   const std::string code = creator.List4.List(position);
   naming.GenPlayerRatings(code, false);
   creator.List1.AddItem(naming.GeneratedRecord(name, code, training));
-  program.desktop.Yield();
+  program.front_end.Yield();
 }
 
 }  // namespace

@@ -5,7 +5,7 @@
 
 #include "bench/figures.h"
 #include "bench/world_for_bench.h"
-#include "desktop/qt_desktop.h"
+#include "desktop/qt_front_end.h"
 
 namespace frostmark {
 namespace {
@@ -17,22 +17,22 @@ double SecondsSince(Clock::time_point start) {
 }
 
 // What a Yield costs in a walk over a list, the events that it lets run included.
-double NanosecondsAYield(QtDesktop& desktop, const RecordList& list) {
+double NanosecondsAYield(QtFrontEnd& front_end, const RecordList& list) {
   constexpr int kYields = 5'000'000;
   std::size_t length = 0;
   const auto start = Clock::now();
   for (int i = 0; i < kYields; ++i) {
     length += list.List(i % list.ListCount()).size();
-    desktop.Yield();
+    front_end.Yield();
   }
   const double seconds = SecondsSince(start);
   return length == 0 ? 0 : seconds / kYields * 1e9;
 }
 
-double ProcessorSecondsOfWaiting(QtDesktop& desktop, std::chrono::seconds wait) {
+double ProcessorSecondsOfWaiting(QtFrontEnd& front_end, std::chrono::seconds wait) {
   const std::clock_t before = std::clock();
   const auto start = Clock::now();
-  while (Clock::now() - start < wait) desktop.WaitFor(wait);
+  while (Clock::now() - start < wait) front_end.WaitFor(wait);
   return static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC;
 }
 
@@ -50,16 +50,16 @@ double MillisecondsAWeek(Program& program) {
 void PrintDesktopFigures(int argc, char** argv) {
   const QApplication application(argc, argv);
   const WorldForBench world;  // lays out and saves the game that the windows resume
-  QtDesktop desktop;
+  QtFrontEnd front_end;
   ClockDice dice;
-  Program program(desktop, dice, world.Folder());
+  Program program(front_end, dice, world.Folder());
   program.Start();
   program.startup.PressLoad();
   std::printf("\nOn the desktop: a Yield takes %.1f ns (below 50)",
-              NanosecondsAYield(desktop, program.franchise.tempList));
+              NanosecondsAYield(front_end, program.franchise.tempList));
   std::printf("; a simulated week in the window %.1f ms (below 40)", MillisecondsAWeek(program));
   std::printf("; 10 s of waiting take %.3f s of processor time (below 0.1)\n",
-              ProcessorSecondsOfWaiting(desktop, std::chrono::seconds(10)));
+              ProcessorSecondsOfWaiting(front_end, std::chrono::seconds(10)));
 }
 
 }  // namespace frostmark

@@ -2,7 +2,7 @@
 #include <QFile>
 
 #include "bench/startup/end_at_first_frame.h"
-#include "desktop/qt_desktop.h"
+#include "desktop/qt_front_end.h"
 #include "desktop/style.h"
 #include "program/program.h"
 #include "records/dice.h"
@@ -12,10 +12,10 @@ int main(int argc, char** argv) {
   const QApplication application(argc, argv);
   const frostmark::EndAtFirstFrame end;
   frostmark::DressApplication();
-  frostmark::QtDesktop desktop;
+  frostmark::QtFrontEnd front_end;
   frostmark::ClockDice dice;
   const QByteArray folder = QFile::encodeName(QApplication::applicationDirPath());
-  frostmark::Program program(desktop, dice, folder.toStdString());
-  desktop.guard().Call([&] { program.Start(); });
+  frostmark::Program program(front_end, dice, folder.toStdString());
+  front_end.guard().Call([&] { program.Start(); });
   return QApplication::exec();
 }

@@ -17,7 +17,7 @@ TEST(ComeToFront, BringsTheScreenInFrontOfAnotherWindow) {
   other.show();
   other.activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
-  game.desktop().ComeToFront();
+  game.front_end().ComeToFront();
   EXPECT_TRUE(QTest::qWaitForWindowActive(&game.Window(game.program().startup)));
 }
 
@@ -27,7 +27,7 @@ TEST(ComeToFront, BringsUpAMinimizedScreen) {
   ScreenWindow& window = game.Window(game.program().startup);
   window.showMinimized();
   ASSERT_TRUE(QTest::qWaitFor([&] { return game.program().startup.Minimized(); }));
-  game.desktop().ComeToFront();
+  game.front_end().ComeToFront();
   EXPECT_TRUE(QTest::qWaitFor([&] { return !game.program().startup.Minimized(); }));
   EXPECT_FALSE(window.isMinimized());
 }
@@ -43,7 +43,7 @@ TEST(ComeToFront, BringsUpTheBoxThatIsOpen) {
     if (box == nullptr || active) return;
     other.show();
     other.activateWindow();
-    game.desktop().ComeToFront();
+    game.front_end().ComeToFront();
     active = QTest::qWaitForWindowActive(box);
     box->close();
   });

@@ -26,7 +26,7 @@ class DraftInWindows : public testing::Test {
   DraftInWindows() {
     game_.Start();
     game_.StartFranchise();
-    game_.desktop().guard().Call([this] {
+    game_.front_end().guard().Call([this] {
       Franchise& franchise = game_.program().franchise;
       franchise.Command1.Click();
       franchise.HighButton1.Click();
@@ -85,7 +85,7 @@ class DraftInWindows : public testing::Test {
 TEST_F(DraftInWindows, TheUsersTurnByMouse) {
   std::string picked;
   {
-    Person person(game_.desktop());
+    Person person(game_.front_end());
     const auto let_go = [this] {
       EXPECT_EQ(OpenList(), -1) << "nothing is open before somebody has left";
       Person::DoubleClickRow(List(select(), "List1"), 3);
@@ -115,7 +115,7 @@ TEST_F(DraftInWindows, TheUsersTurnByMouse) {
   const std::string name = picked.substr(0, picked.rfind(' '));
 
   {
-    Person person(game_.desktop());
+    Person person(game_.front_end());
     person.ClickInBox("OK");  // the file is saved
     Person::Click(Button(draft(), "Command1"));
   }
@@ -133,7 +133,7 @@ TEST_F(DraftInWindows, TheUsersTurnByMouse) {
 
 TEST_F(DraftInWindows, TheUsersTurnByKeyboardAlone) {
   {
-    Person person(game_.desktop());
+    Person person(game_.front_end());
     // The list of the team has the keyboard as soon as it comes up, the open list of the pool as
     // soon as it opens: nobody has to look for them.
     person.When(
@@ -158,7 +158,7 @@ TEST_F(DraftInWindows, TheUsersTurnByKeyboardAlone) {
   Settle();
   ExpectNothingLit();
   {
-    Person person(game_.desktop());
+    Person person(game_.front_end());
     person.AnswerBox(Qt::Key_Return);
     // So has the button on to the new season.
     EXPECT_EQ(Person::Focus()->objectName(), "Command1");
@@ -170,7 +170,7 @@ TEST_F(DraftInWindows, TheUsersTurnByKeyboardAlone) {
 
 TEST_F(DraftInWindows, ADoubleClickOutOfTurnIsNotAPickAndTheHistoryFollows) {
   {
-    Person person(game_.desktop());
+    Person person(game_.front_end());
     person.When(
         "some history", [this] { return draft().Events.ListCount() > 20 && !draft().AwaitingPick; },
         [this] {
@@ -198,23 +198,23 @@ TEST_F(DraftInWindows, ADoubleClickOutOfTurnIsNotAPickAndTheHistoryFollows) {
 
 TEST_F(DraftInWindows, ItsWindowStaysWhileTheUserIsAwaitedButTheProgramCanBeLeft) {
   {
-    Person person(game_.desktop());
+    Person person(game_.front_end());
     person.When(
         "the user's turn", [this] { return ChoosesWhomToLetGo(); },
         [this] {
           // The choice itself cannot be closed.
           game_.Window(select()).close();
-          EXPECT_EQ(game_.desktop().ExitCode(), -1);
+          EXPECT_EQ(game_.front_end().ExitCode(), -1);
           EXPECT_TRUE(select().Visible());
           // Nor the draft: the year is not saved before the new season.
           game_.Window(draft()).close();
-          EXPECT_EQ(game_.desktop().ExitCode(), -1);
+          EXPECT_EQ(game_.front_end().ExitCode(), -1);
           EXPECT_TRUE(draft().Visible());
           Person::Press(Qt::Key_Q, Qt::ControlModifier);
         });
     Person::Click(Button(results(), "Command1"));
   }
-  EXPECT_EQ(game_.desktop().ExitCode(), 0);
+  EXPECT_EQ(game_.front_end().ExitCode(), 0);
   EXPECT_FALSE(draft().Command1.Enabled());
   // His team is as it was, with all of its eleven.
   QFile team(QFile::decodeName(franchise().UserTeamPath().c_str()));
@@ -234,7 +234,7 @@ TEST_F(DraftInWindows, AfterARetirementTheOpenListHasTheKeyboardAtOnce) {
   team.write(roster.toUtf8());
   team.close();
   {
-    Person person(game_.desktop());
+    Person person(game_.front_end());
     person.When(
         "the pool", [this] { return Picks(); },
         [this] {

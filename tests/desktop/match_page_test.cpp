@@ -26,7 +26,7 @@ namespace {
 class MatchPage : public testing::Test {
  protected:
   MatchPage() {
-    game_.desktop().guard().Call([this] {
+    game_.front_end().guard().Call([this] {
       QTimer::singleShot(0, [] {
         if (QWidget* box = QApplication::activeModalWidget()) box->close();
       });

@@ -20,7 +20,7 @@ class News : public testing::Test {
   News() {
     game_.StartFranchise();
     franchise().SimRunning = true;
-    game_.desktop().guard().Call([this] { franchise().PressBegin(); });
+    game_.front_end().guard().Call([this] { franchise().PressBegin(); });
     franchise().XTab1.SetFront(1);
     Settle();
   }

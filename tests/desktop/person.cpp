@@ -70,7 +70,7 @@ void ActivateSomeWindow() {
 
 }  // namespace
 
-Person::Person(QuickDesktop& desktop) : desktop_(desktop) {
+Person::Person(QuickFrontEnd& front_end) : front_end_(front_end) {
   patience_.start();
   LookAroundSoon();
 }
@@ -82,7 +82,7 @@ Person::~Person() {
 void Person::GiveUp() {
   ADD_FAILURE() << "this never happened: " << deeds_.front().what.toStdString();
   deeds_.clear();
-  desktop_.guard().Call([this] { desktop_.EndProgram(); });
+  front_end_.guard().Call([this] { front_end_.EndProgram(); });
 }
 
 void Person::When(const QString& what, std::function<bool()> ready, std::function<void()> deed) {

@@ -11,7 +11,7 @@ class QWidget;
 
 namespace frostmark::test {
 
-class QuickDesktop;
+class QuickFrontEnd;
 
 // Somebody at the mouse and the keyboard. What is to be done while the game is deep in a procedure
 // of its own (answering its boxes, playing its match, choosing in the draft) is told beforehand:
@@ -20,7 +20,7 @@ class Person {
  public:
   // Ends the program on DESKTOP when nothing gets done for seconds, so that a procedure
   // that waits for it does not wait for ever.
-  explicit Person(QuickDesktop& desktop);
+  explicit Person(QuickFrontEnd& front_end);
   // Everything told must have been done by then.
   ~Person();
   Person(const Person&) = delete;
@@ -64,7 +64,7 @@ class Person {
   void GiveUp();
 
   std::deque<Deed> deeds_;
-  QuickDesktop& desktop_;
+  QuickFrontEnd& front_end_;
   QElapsedTimer patience_;
   int rounds_without_window_ = 0;
   QObject here_;

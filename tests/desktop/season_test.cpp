@@ -55,7 +55,7 @@ class SeasonInWindows : public testing::Test {
 
 TEST_F(SeasonInWindows, ByMouse) {
   {
-    Person person(game_.desktop());
+    Person person(game_.front_end());
     person.ClickInBox("OK");  // a new world takes a while
     Person::Click(Button(program().startup, "HighButton2"));
     Person::Click(Button(program().startup, "HighButton4"));
@@ -83,7 +83,7 @@ TEST_F(SeasonInWindows, ByMouse) {
   // The first week, with the user's own game watched.
   ClickTab(franchise(), "XTab1", 0);
   {
-    Person person(game_.desktop());
+    Person person(game_.front_end());
     for (Timer* period : {&match().Timer1, &match().Timer2, &match().Timer3}) {
       person.When(
           "a period to start", [this] { return MatchIsOn(); },
@@ -104,7 +104,7 @@ TEST_F(SeasonInWindows, ByMouse) {
 
   // The rest of it at one press, over the end of the season.
   {
-    Person person(game_.desktop());
+    Person person(game_.front_end());
     person.ClickInBox("OK", "20");
     Person::Click(Button(franchise(), "Command2"));
   }
@@ -117,7 +117,7 @@ TEST_F(SeasonInWindows, ByMouse) {
 
 TEST_F(SeasonInWindows, ByKeyboardAlone) {
   {
-    Person person(game_.desktop());
+    Person person(game_.front_end());
     person.AnswerBox(Qt::Key_Return);
     ASSERT_TRUE(Person::TabAndPress("HighButton2"));
     ASSERT_TRUE(Person::TabAndPress("HighButton4"));
@@ -154,7 +154,7 @@ TEST_F(SeasonInWindows, ByKeyboardAlone) {
   EXPECT_EQ(franchise().XTab1.FrontTab(), "Main");
   ASSERT_TRUE(Person::TabTo("HighButton1"));
   {
-    Person person(game_.desktop());
+    Person person(game_.front_end());
     for (Timer* period : {&match().Timer1, &match().Timer2, &match().Timer3}) {
       person.When(
           "a period to start", [this] { return MatchIsOn(); },
@@ -178,7 +178,7 @@ TEST_F(SeasonInWindows, ByKeyboardAlone) {
   EXPECT_EQ(Person::Focus()->objectName(), "HighButton1");
 
   {
-    Person person(game_.desktop());
+    Person person(game_.front_end());
     person.AnswerBox(Qt::Key_Return, "20");
     ASSERT_TRUE(Person::TabAndPress("Command2"));
   }
@@ -188,7 +188,7 @@ TEST_F(SeasonInWindows, ByKeyboardAlone) {
 
 TEST_F(SeasonInWindows, ASimRunIsCancelledByItsButton) {
   game_.StartFranchise();
-  Person person(game_.desktop());
+  Person person(game_.front_end());
   person.ClickInBox("OK", "10");
   person.When(
       "a run to cancel",

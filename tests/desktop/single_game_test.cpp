@@ -20,7 +20,7 @@ namespace {
 class SingleGame : public testing::Test {
  protected:
   SingleGame() {
-    game_.desktop().guard().Call([this] {
+    game_.front_end().guard().Call([this] {
       QTimer::singleShot(0, [] {
         if (QWidget* box = QApplication::activeModalWidget()) box->close();
       });

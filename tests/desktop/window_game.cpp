@@ -14,16 +14,16 @@ int RepeatableDice::Roll(int n) {
   return n < 1 ? 1 : static_cast<int>((state_ >> 33U) % static_cast<unsigned int>(n)) + 1;
 }
 
-QuickDesktop::QuickDesktop() : QtDesktop([this](int code) { exit_code_ = code; }) {}
+QuickFrontEnd::QuickFrontEnd() : QtFrontEnd([this](int code) { exit_code_ = code; }) {}
 
-void QuickDesktop::Yield() {
+void QuickFrontEnd::Yield() {
   if (at_yield) at_yield();
-  QtDesktop::Yield();
+  QtFrontEnd::Yield();
 }
 
-void QuickDesktop::WaitFor(std::chrono::microseconds at_most) {
+void QuickFrontEnd::WaitFor(std::chrono::microseconds at_most) {
   now_ += at_most;
-  QtDesktop::WaitFor(std::chrono::microseconds::zero());
+  QtFrontEnd::WaitFor(std::chrono::microseconds::zero());
 }
 
 void KeepPreferencesApart() {
@@ -38,18 +38,18 @@ WindowGame::WindowGame() {
     folder.mkpath(QString("Teams/Rank %1").arg(rank));
   }
   program_ =
-      std::make_unique<Program>(desktop_, dice_, QFile::encodeName(folder_.path()).toStdString());
+      std::make_unique<Program>(front_end_, dice_, QFile::encodeName(folder_.path()).toStdString());
 }
 
 void WindowGame::Start() {
-  desktop_.guard().Call([this] { program_->Start(); });
+  front_end_.guard().Call([this] { program_->Start(); });
 }
 
 void WindowGame::StartFranchise() {
-  Person person(desktop_);
+  Person person(front_end_);
   person.AnswerBox(Qt::Key_Return);  // a new world takes a while
   person.AnswerBox(Qt::Key_Return);  // the file is saved
-  desktop_.guard().Call([this] {
+  front_end_.guard().Call([this] {
     program_->startup.PressNew();
     program_->startup.PressGenerate();
     program_->startup.PressBegin();
@@ -57,7 +57,7 @@ void WindowGame::StartFranchise() {
 }
 
 ScreenWindow& WindowGame::Window(const Screen& screen) const {
-  ScreenWindow* window = desktop_.Window(screen);
+  ScreenWindow* window = front_end_.Window(screen);
   if (window == nullptr) qFatal("%s has never been shown", screen.Name().c_str());
   return *window;
 }

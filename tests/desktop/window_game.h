@@ -8,7 +8,7 @@
 #include <string>
 
 #include "desktop/decorations.h"
-#include "desktop/qt_desktop.h"
+#include "desktop/qt_front_end.h"
 #include "desktop/screen_form.h"
 #include "desktop/screen_window.h"
 #include "program/program.h"
@@ -27,9 +27,9 @@ class RepeatableDice : public Dice {
 
 // The real desktop, boxes and all, but with a clock of its own: where the game waits for a length
 // of time, that time has passed at once. The end of the program only leaves its exit code behind.
-class QuickDesktop : public QtDesktop {
+class QuickFrontEnd : public QtFrontEnd {
  public:
-  QuickDesktop();
+  QuickFrontEnd();
 
   void Yield() override;
   void WaitFor(std::chrono::microseconds at_most) override;
@@ -61,7 +61,7 @@ class WindowGame {
   void StartFranchise();
 
   Program& program() { return *program_; }
-  QuickDesktop& desktop() { return desktop_; }
+  QuickFrontEnd& front_end() { return front_end_; }
   QString Folder() const { return folder_.path(); }
 
   ScreenWindow& Window(const Screen& screen) const;
@@ -74,7 +74,7 @@ class WindowGame {
 
  private:
   QTemporaryDir folder_;
-  QuickDesktop desktop_;
+  QuickFrontEnd front_end_;
   RepeatableDice dice_;
   std::unique_ptr<Program> program_;
 };

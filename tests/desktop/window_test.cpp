@@ -43,22 +43,22 @@ class OnNextBox {
 class Windows : public testing::Test {
  protected:
   Program& program() { return game_.program(); }
-  QuickDesktop& desktop() { return game_.desktop(); }
+  QuickFrontEnd& front_end() { return game_.front_end(); }
 
   WindowGame game_;
 };
 
 TEST_F(Windows, AreMadeWhenTheirScreenIsFirstShownAndKept) {
-  EXPECT_EQ(desktop().Window(program().startup), nullptr);
+  EXPECT_EQ(front_end().Window(program().startup), nullptr);
   game_.Start();
-  ScreenWindow* window = desktop().Window(program().startup);
+  ScreenWindow* window = front_end().Window(program().startup);
   ASSERT_NE(window, nullptr);
   EXPECT_TRUE(window->isVisible());
-  EXPECT_EQ(desktop().Window(program().game), nullptr);
+  EXPECT_EQ(front_end().Window(program().game), nullptr);
   program().startup.Hide();
   EXPECT_FALSE(window->isVisible());
   program().startup.Show();
-  EXPECT_EQ(desktop().Window(program().startup), window);
+  EXPECT_EQ(front_end().Window(program().startup), window);
 }
 
 TEST_F(Windows, OnlyToolsHaveATitleBar) {
@@ -104,20 +104,20 @@ TEST_F(Windows, APopupIsHiddenByItsWindowManager) {
   program().team_creator.Show();
   EXPECT_FALSE(game_.Window(program().team_creator).close());
   EXPECT_FALSE(program().team_creator.Visible());
-  EXPECT_EQ(desktop().ExitCode(), -1);
+  EXPECT_EQ(front_end().ExitCode(), -1);
 }
 
 TEST_F(Windows, TheChoiceInTheDraftCannotBeClosed) {
   program().f_select_draft.Show();
   game_.Window(program().f_select_draft).close();
   EXPECT_TRUE(program().f_select_draft.Visible());
-  EXPECT_EQ(desktop().ExitCode(), -1);
+  EXPECT_EQ(front_end().ExitCode(), -1);
 }
 
 TEST_F(Windows, ClosingAMainScreenEndsTheProgram) {
   game_.Start();
   game_.Window(program().startup).close();
-  EXPECT_EQ(desktop().ExitCode(), 0);
+  EXPECT_EQ(front_end().ExitCode(), 0);
   EXPECT_FALSE(game_.Window(program().startup).isVisible());
 }
 
@@ -125,14 +125,14 @@ TEST_F(Windows, TheEndUnwindsProceduresThatWait) {
   game_.Start();
   bool came_back = false;
   program().startup.HighButton1.OnClick = [&] {
-    while (true) desktop().Wait();
+    while (true) front_end().Wait();
   };
   QTimer::singleShot(0,
                      [&] { Person::Click(game_.On<QWidget>(program().startup, "HighButton3")); });
   Person::Click(game_.On<QWidget>(program().startup, "HighButton1"));
   came_back = true;
   EXPECT_TRUE(came_back);
-  EXPECT_EQ(desktop().ExitCode(), 0);
+  EXPECT_EQ(front_end().ExitCode(), 0);
 }
 
 TEST_F(Windows, AnErrorIsToldAndEndsTheProgram) {
@@ -141,14 +141,14 @@ TEST_F(Windows, AnErrorIsToldAndEndsTheProgram) {
   OnNextBox box([](QDialog& dialog) { dialog.accept(); });
   Person::Click(game_.On<QWidget>(program().startup, "HighButton1"));
   EXPECT_EQ(box.Text(), "Type mismatch: abc");
-  EXPECT_EQ(desktop().ExitCode(), 1);
+  EXPECT_EQ(front_end().ExitCode(), 1);
 }
 
 TEST_F(Windows, AnErrorInANestedHandlerEndsTheOuterOneToo) {
   game_.Start();
   bool went_on = false;
   program().startup.HighButton1.OnClick = [&] {
-    while (true) desktop().Wait();
+    while (true) front_end().Wait();
     went_on = true;
   };
   program().startup.HighButton2.OnClick = [] { throw RuntimeError("Overflow"); };
@@ -157,7 +157,7 @@ TEST_F(Windows, AnErrorInANestedHandlerEndsTheOuterOneToo) {
   OnNextBox box([](QDialog& dialog) { dialog.accept(); });
   Person::Click(game_.On<QWidget>(program().startup, "HighButton1"));
   EXPECT_FALSE(went_on);
-  EXPECT_EQ(desktop().ExitCode(), 1);
+  EXPECT_EQ(front_end().ExitCode(), 1);
 }
 
 TEST_F(Windows, NothingEntersTheGameAfterItsEnd) {
@@ -172,7 +172,7 @@ TEST_F(Windows, NothingEntersTheGameAfterItsEnd) {
 TEST_F(Windows, AClosedQuestionIsANo) {
   game_.Start();
   OnNextBox box([](QDialog& dialog) { dialog.close(); });
-  EXPECT_EQ(desktop().ShowBox({BoxIcon::kQuestion, BoxButtons::kYesNo, "Sure?\nReally?"}),
+  EXPECT_EQ(front_end().ShowBox({BoxIcon::kQuestion, BoxButtons::kYesNo, "Sure?\nReally?"}),
             Answer::kNo);
   EXPECT_EQ(box.Text(), "Sure?\nReally?");
 }
@@ -181,7 +181,7 @@ TEST_F(Windows, AQuestionAnsweredYes) {
   game_.Start();
   OnNextBox box(
       [](QDialog& dialog) { static_cast<QMessageBox&>(dialog).button(QMessageBox::Yes)->click(); });
-  EXPECT_EQ(desktop().ShowBox({BoxIcon::kStop, BoxButtons::kYesNo, "Sure?"}), Answer::kYes);
+  EXPECT_EQ(front_end().ShowBox({BoxIcon::kStop, BoxButtons::kYesNo, "Sure?"}), Answer::kYes);
 }
 
 TEST_F(Windows, ATextThatLooksLikeMarkupStaysAText) {
@@ -190,7 +190,7 @@ TEST_F(Windows, ATextThatLooksLikeMarkupStaysAText) {
     EXPECT_EQ(static_cast<QMessageBox&>(dialog).textFormat(), Qt::PlainText);
     dialog.accept();
   });
-  EXPECT_EQ(desktop().ShowBox({BoxIcon::kNone, BoxButtons::kOk, "<b>Boston</b>"}), Answer::kOk);
+  EXPECT_EQ(front_end().ShowBox({BoxIcon::kNone, BoxButtons::kOk, "<b>Boston</b>"}), Answer::kOk);
 }
 
 TEST_F(Windows, ACancelledInputBoxGivesTheEmptyText) {
@@ -199,12 +199,12 @@ TEST_F(Windows, ACancelledInputBoxGivesTheEmptyText) {
     static_cast<QInputDialog&>(dialog).setTextValue("7");
     dialog.reject();
   });
-  EXPECT_EQ(desktop().AskText("Desired overall?"), "");
+  EXPECT_EQ(front_end().AskText("Desired overall?"), "");
   OnNextBox accepted([](QDialog& dialog) {
     static_cast<QInputDialog&>(dialog).setTextValue("85");
     dialog.accept();
   });
-  EXPECT_EQ(desktop().AskText("Desired overall?"), "85");
+  EXPECT_EQ(front_end().AskText("Desired overall?"), "85");
 }
 
 TEST_F(Windows, ATimerDoesNotTickInsideItsOwnTick) {
@@ -220,7 +220,7 @@ TEST_F(Windows, ATimerDoesNotTickInsideItsOwnTick) {
     if (++ticks == 2) timer.Disable();
   };
   timer.Enable();
-  while (timer.Enabled()) desktop().Wait();
+  while (timer.Enabled()) front_end().Wait();
   EXPECT_EQ(deepest, 1);
 }
 
@@ -230,7 +230,7 @@ TEST_F(Windows, YieldLetsEventsRunAndCostsNextToNothing) {
   QTimer::singleShot(0, [&] { ran = true; });
   const auto start = std::chrono::steady_clock::now();
   constexpr int kYields = 1000000;
-  for (int i = 0; i < kYields; ++i) desktop().Yield();
+  for (int i = 0; i < kYields; ++i) front_end().Yield();
   const auto took = std::chrono::steady_clock::now() - start;
   EXPECT_TRUE(ran);
   // Generous, for slow and busy machines; frostmark-bench says what it is.

@@ -95,7 +95,7 @@ TEST_F(LeagueMovesTest, AreFinishedByNewAsWell) {
   moves.WriteDown();
   Make(moves, 9);
   Restart();
-  desktop().QueueAnswer("no");
+  front_end().QueueAnswer("no");
   startup().PressNew();
   ExpectSixTeamsALeague();
   EXPECT_FALSE(IsPlanned());
@@ -110,7 +110,7 @@ TEST_F(LeagueMovesTest, OfAWorldThatIsBuiltOverAreForgotten) {
 }
 
 TEST_F(LeagueMovesTest, AreWrittenDownBeforeTheFirstAndGoneAfterTheLast) {
-  desktop().AtYield([this] { EXPECT_FALSE(IsPlanned()); });
+  front_end().AtYield([this] { EXPECT_FALSE(IsPlanned()); });
   franchise().theOffSeason();
   EXPECT_EQ(world.SettingsNames().size(), 8U);
 }

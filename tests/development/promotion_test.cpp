@@ -2,7 +2,7 @@
 #include <filesystem>
 
 #include "tests/support/game_fixture.h"
-#include "tests/support/watchful_desktop.h"
+#include "tests/support/watchful_front_end.h"
 
 // The end of a season: who moves, what is shown, in which order.
 
@@ -119,9 +119,9 @@ TEST_F(PromotionTest, PlacesGoByTheOrderOfTheTableAlone) {
 
 TEST_F(PromotionTest, TheTablesAreCopiedAsTheyStood) {
   franchise().StatRankE.SetList(0, "(7-2-1) E0 Wolves");
-  const auto yields = desktop().Yields();
+  const auto yields = front_end().Yields();
   franchise().theOffSeason();
-  EXPECT_EQ(desktop().Yields() - yields, 36);
+  EXPECT_EQ(front_end().Yields() - yields, 36);
   const std::array<ListBox*, 6> shown = {&results().List6, &results().List5, &results().List4,
                                          &results().List3, &results().List2, &results().List1};
   for (std::size_t league = 0; league < kRanks.size(); ++league) {
@@ -134,7 +134,7 @@ TEST_F(PromotionTest, TheTablesAreCopiedAsTheyStood) {
 }
 
 TEST_F(PromotionTest, TheTopTableIsCopiedFirst) {
-  desktop().AtYield([this] {
+  front_end().AtYield([this] {
     EXPECT_EQ(results().List1.ListCount(), 1);
     EXPECT_EQ(results().List6.ListCount(), 0);
     // All teams have moved by now, and the season is not yet counted.
@@ -175,7 +175,7 @@ TEST_F(PromotionTest, TheUsersLeagueFollowsTheirTeam) {
     EXPECT_EQ(franchise().MyRank.Caption(), c.rank) << c.team;
     EXPECT_TRUE(LiesIn(c.team, c.rank)) << c.team;
   }
-  EXPECT_TRUE(desktop().Boxes().empty());
+  EXPECT_TRUE(front_end().Boxes().empty());
   EXPECT_EQ(franchise().Champion.Caption(), "00");
 }
 
@@ -188,10 +188,10 @@ TEST_F(PromotionTest, TheUserIsShownUnderTheLeagueInWhichTheyPlayed) {
 TEST_F(PromotionTest, AUserWhoWinsTheTopLeagueIsCongratulated) {
   franchise().Champion.SetCaption("2");
   EndSeasonOf("A0 Wolves");
-  ASSERT_EQ(desktop().Boxes().size(), 1U);
-  EXPECT_EQ(desktop().Boxes()[0].text, "Congrats! You are the best in all the leagues!");
-  EXPECT_EQ(desktop().Boxes()[0].icon, BoxIcon::kInformation);
-  EXPECT_EQ(desktop().Boxes()[0].buttons, BoxButtons::kOk);
+  ASSERT_EQ(front_end().Boxes().size(), 1U);
+  EXPECT_EQ(front_end().Boxes()[0].text, "Congrats! You are the best in all the leagues!");
+  EXPECT_EQ(front_end().Boxes()[0].icon, BoxIcon::kInformation);
+  EXPECT_EQ(front_end().Boxes()[0].buttons, BoxButtons::kOk);
   EXPECT_EQ(franchise().Champion.Caption(), "3");
   EXPECT_EQ(franchise().MyRank.Caption(), "Rank A");
   EXPECT_TRUE(LiesIn("A0 Wolves", "Rank A"));
@@ -199,7 +199,7 @@ TEST_F(PromotionTest, AUserWhoWinsTheTopLeagueIsCongratulated) {
 }
 
 TEST_F(PromotionTest, TheTitleIsCountedWhenTheMessageIsClosed) {
-  WatchfulDesktop watchful;
+  WatchfulFrontEnd watchful;
   Program other(watchful, dice(), world.path());
   other.franchise.TeamName.SetCaption("A0 Wolves");
   other.franchise.LoadNewTeams();

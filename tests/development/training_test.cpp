@@ -226,10 +226,10 @@ TEST_F(TrainingTest, TheFileIsWrittenInTheListsOrderEvenWithoutAChange) {
   RecordList list;
   FillList(list, MakeRoster(74));
   dice().Give(6, 100);
-  const auto yields = desktop().Yields();
+  const auto yields = front_end().Yields();
   franchise().TrainThem(list, Path());
   EXPECT_EQ(ReadText(Path()), JoinLines(MakeRoster(74)));
-  EXPECT_EQ(desktop().Yields() - yields, 11 + 11);  // a player, a line of the file
+  EXPECT_EQ(front_end().Yields() - yields, 11 + 11);  // a player, a line of the file
   // The goalie, then five of the training line.
   EXPECT_EQ(AskedFor(), Asked(6, 100));
   RecordList nobody;
@@ -242,16 +242,16 @@ TEST_F(TrainingTest, TheRePickingYieldsOnceForEachPairLookedAt) {
   RecordList list;
   FillList(list, MakeRoster(74));
   dice().Give(6, 100);
-  const auto yields = desktop().Yields();
+  const auto yields = front_end().Yields();
   franchise().TrainThem(list, Path());
-  EXPECT_EQ(desktop().Yields() - yields, 11 + 10 * 10 + 11);
+  EXPECT_EQ(front_end().Yields() - yields, 11 + 10 * 10 + 11);
 }
 
 TEST_F(TrainingTest, NothingIsToldOfIt) {
   RecordList list;
   FillList(list, MakeRoster(74));
   franchise().TrainThem(list, Path());
-  EXPECT_TRUE(desktop().Boxes().empty());
+  EXPECT_TRUE(front_end().Boxes().empty());
   EXPECT_EQ(franchise().Alerts.ListCount(), 0);
 }
 

@@ -75,9 +75,9 @@ class DraftScene : public GameFixture {
 
   // At the next wait a second passes, and LOOK looks on before.
   void SecondPasses(std::function<void()> look = nullptr) {
-    desktop().AtWait([this, look] {
+    front_end().AtWait([this, look] {
       if (look) look();
-      desktop().PassTime(std::chrono::seconds(1));
+      front_end().PassTime(std::chrono::seconds(1));
     });
   }
   // Runs the draft up to the wait after the WAITS that are queued or pass.
@@ -86,7 +86,7 @@ class DraftScene : public GameFixture {
     Stop();
   }
   void Stop() {
-    desktop().AtWait([] { throw Stopped(); });
+    front_end().AtWait([] { throw Stopped(); });
     EXPECT_THROW(draft().RunDraft(), Stopped);
   }
   // Runs the first turn of a draft, that of "Rank A", with the rolls of its retirements, and

@@ -1,6 +1,6 @@
 #include "records/lines/player_line.h"
 #include "tests/support/game_fixture.h"
-#include "tests/support/watchful_desktop.h"
+#include "tests/support/watchful_front_end.h"
 
 // The button "New Season".
 
@@ -39,8 +39,8 @@ TEST_F(NewSeasonTest, ItHandsTheGameBackAndSaves) {
   EXPECT_EQ(franchise().MainList.ListCount(), 6);
   EXPECT_EQ(franchise().TrainList.ListCount(), 5);
   EXPECT_EQ(franchise().MainRoster.List(0), FormatRosterLine(franchise().MainList.List(0)));
-  ASSERT_EQ(desktop().Boxes().size(), 1U);
-  EXPECT_EQ(desktop().Boxes()[0].text, "File saved!");
+  ASSERT_EQ(front_end().Boxes().size(), 1U);
+  EXPECT_EQ(front_end().Boxes()[0].text, "File saved!");
   EXPECT_EQ(ordvik().ReadSetting("Week"), "Week 1");
   EXPECT_EQ(ordvik().ReadSetting("Season"), "3");
   EXPECT_EQ(ReadLines(world.SettingsPath("StatRankB.fmk"))[0], "(0-0-0) B0 Wolves");
@@ -50,7 +50,7 @@ TEST_F(NewSeasonTest, ItHandsTheGameBackAndSaves) {
 }
 
 TEST_F(NewSeasonTest, ItSavesWhenTheGameIsHandedBack) {
-  WatchfulDesktop watchful;
+  WatchfulFrontEnd watchful;
   Program other(watchful, dice(), world.path());
   other.franchise.TeamName.SetCaption("F3 Wolves");
   other.f_draft.Show();
@@ -101,12 +101,12 @@ TEST_F(NewSeasonTest, ARecordOnNeitherLineIsLost) {
 TEST_F(NewSeasonTest, OldListsAreForgottenAndEachRecordYields) {
   franchise().MainList.AddItem("left over");
   franchise().tempList.AddItem("left over");
-  const auto yields = desktop().Yields();
+  const auto yields = front_end().Yields();
   NewSeason();
   EXPECT_EQ(franchise().MainList.ListCount(), 6);
   EXPECT_EQ(franchise().tempList.ListCount(), 11);
   // 36 teams, the load, eleven records, then the save: roster, its file, standings. No alerts.
-  EXPECT_EQ(desktop().Yields() - yields, 36 + 99 + 11 + 11 + 11 + 36);
+  EXPECT_EQ(front_end().Yields() - yields, 36 + 99 + 11 + 11 + 11 + 36);
 }
 
 }  // namespace

@@ -22,7 +22,7 @@ class PicksTest : public DraftScene {
   // wait of the turn.
   void Turn(std::function<void()> act) {
     SecondPasses();
-    desktop().AtWait([this, act] {
+    front_end().AtWait([this, act] {
       EXPECT_TRUE(draft().AwaitingPick);
       act();
       EXPECT_FALSE(draft().AwaitingPick);
@@ -32,7 +32,7 @@ class PicksTest : public DraftScene {
   // The same for acts that leave the user at it.
   void Wait(std::function<void()> act) {
     SecondPasses();
-    desktop().AtWait([this, act] {
+    front_end().AtWait([this, act] {
       EXPECT_TRUE(draft().AwaitingPick);
       act();
       EXPECT_TRUE(draft().AwaitingPick);
@@ -40,15 +40,15 @@ class PicksTest : public DraftScene {
     Stop();
   }
   void DoubleClick(ListBox& list, int item, const std::string& answer) {
-    desktop().QueueAnswer(answer);
+    front_end().QueueAnswer(answer);
     list.DoubleClick(item);
-    EXPECT_EQ(desktop().LeftOverAnswers(), 0U);
+    EXPECT_EQ(front_end().LeftOverAnswers(), 0U);
   }
   void ExpectQuestion(const std::string& text) {
-    ASSERT_FALSE(desktop().Boxes().empty());
-    EXPECT_EQ(desktop().Boxes().back().text, text);
-    EXPECT_EQ(desktop().Boxes().back().icon, BoxIcon::kQuestion);
-    EXPECT_EQ(desktop().Boxes().back().buttons, BoxButtons::kYesNo);
+    ASSERT_FALSE(front_end().Boxes().empty());
+    EXPECT_EQ(front_end().Boxes().back().text, text);
+    EXPECT_EQ(front_end().Boxes().back().icon, BoxIcon::kQuestion);
+    EXPECT_EQ(front_end().Boxes().back().buttons, BoxButtons::kYesNo);
   }
 };
 
@@ -102,8 +102,8 @@ TEST_F(PicksTest, WithoutARetirementTheUserIsAskedWhomToLetGo) {
     EXPECT_EQ(OpenLists(), Lines{});
     EXPECT_EQ(Events(), Lines{});
     EXPECT_TRUE(dice().Rolls().empty());
-    EXPECT_EQ(desktop().Waits(), 2);
-    EXPECT_EQ(desktop().Yields(), 11 * 9 + 11 + 11);
+    EXPECT_EQ(front_end().Waits(), 2);
+    EXPECT_EQ(front_end().Yields(), 11 * 9 + 11 + 11);
   });
 }
 
@@ -170,7 +170,7 @@ TEST_F(PicksTest, ASingleClickOnlySelects) {
   Wait([&] {
     choice().List1.Select(4);
     draft().List1.shown.Select(2);
-    EXPECT_TRUE(desktop().Boxes().empty());
+    EXPECT_TRUE(front_end().Boxes().empty());
   });
 }
 
@@ -270,7 +270,7 @@ TEST_F(PicksTest, OutOfTurnADoubleClickDoesNothing) {
     EXPECT_EQ(OpenLists().size(), 6U);
     const Lines roster = ItemsOf(draft().tempList);
     for (ListPair* list : draft().Pool()) list->shown.DoubleClick(0);
-    EXPECT_TRUE(desktop().Boxes().empty());
+    EXPECT_TRUE(front_end().Boxes().empty());
     EXPECT_EQ(ItemsOf(draft().tempList), roster);
     EXPECT_EQ(Pool("GO").size(), 5U);
   });
@@ -281,9 +281,9 @@ TEST_F(PicksTest, AnEmptyListLeavesTheDraftWaitingPermanently) {
   Roster(RosterOfAges(Ages(11, 30)));
   SetPool("GO", {});
   SecondPasses();
-  desktop().AtWait([this] { DoubleClick(choice().List1, 0, "yes"); });
+  front_end().AtWait([this] { DoubleClick(choice().List1, 0, "yes"); });
   for (int wait = 0; wait < 50; ++wait) {
-    desktop().AtWait([this] {
+    front_end().AtWait([this] {
       EXPECT_TRUE(draft().AwaitingPick);
       EXPECT_EQ(OpenLists(), Lines{"List1(0)"});
     });
@@ -303,7 +303,7 @@ TEST_F(PicksTest, ExitFromBelowTheWaitingDraftEndsTheProgram) {
   franchise().TeamName.SetCaption("B Team");
   FillPool(5, 70);
   for (int wait = 0; wait < 4; ++wait) SecondPasses();
-  desktop().AtWait([this] {
+  front_end().AtWait([this] {
     ASSERT_TRUE(draft().AwaitingPick);
     startup().HighButton3.Click();
   });
@@ -317,14 +317,14 @@ TEST_F(PicksTest, ExitFromBelowTheWaitingDraftEndsTheProgram) {
 TEST_F(PicksTest, AddDrafteePutsThemInPlaceAndForgetsThem) {
   std::string best = MakeRecord({.name = "Best", .position = "CF", .passing = 99, .training = "Y"});
   const std::string record = best;
-  const auto yields = desktop().Yields();
+  const auto yields = front_end().Yields();
   draft().AddDraftee(best);
   EXPECT_EQ(best, "");
   EXPECT_EQ(Pool("CF").size(), 6U);
   EXPECT_EQ(Pool("CF")[0], record);
   EXPECT_EQ(draft().List5.shown.List(0), FormatPoolLine(record));
   ExpectPoolInStep();
-  EXPECT_EQ(desktop().Yields() - yields, 6);
+  EXPECT_EQ(front_end().Yields() - yields, 6);
 
   std::string worst = MakeRecord({.name = "Worst", .position = "CF", .passing = 1, .shooting = 1});
   draft().AddDraftee(worst);

@@ -13,7 +13,7 @@ class DraftPoolTest : public DraftScene {
 
   // Presses "Draft" and stops at the first wait of the first turn.
   void RollPool() {
-    desktop().AtWait([] { throw Stopped(); });
+    front_end().AtWait([] { throw Stopped(); });
     EXPECT_THROW(program().f_results.Command1.Click(), Stopped);
   }
 };
@@ -75,7 +75,7 @@ TEST_F(DraftPoolTest, ThePoolIsShownWhenAllOfItIsRolled) {
   for (ListPair* list : draft().Pool()) list->shown.AddItem("of last year");
   draft().Events.AddItem("x");
   for (int player = 1; player <= 120; ++player) {
-    desktop().AtYield([this, player] {
+    front_end().AtYield([this, player] {
       EXPECT_EQ(draft().Events.ListCount(), 0);
       const std::size_t at = static_cast<std::size_t>((player - 1) / 20);
       for (std::size_t p = 0; p <= at; ++p) {
@@ -88,7 +88,7 @@ TEST_F(DraftPoolTest, ThePoolIsShownWhenAllOfItIsRolled) {
     });
   }
   for (int line = 1; line <= 120; ++line) {
-    desktop().AtYield([this, line] {
+    front_end().AtYield([this, line] {
       int shown = 0;
       for (ListPair* list : draft().Pool()) shown += list->shown.ListCount();
       EXPECT_EQ(shown, line);
@@ -96,10 +96,10 @@ TEST_F(DraftPoolTest, ThePoolIsShownWhenAllOfItIsRolled) {
       EXPECT_TRUE(program().f_results.Visible());
     });
   }
-  desktop().AtWait([this] {
+  front_end().AtWait([this] {
     EXPECT_TRUE(draft().Visible());
     EXPECT_FALSE(program().f_results.Visible());
-    EXPECT_EQ(desktop().Yields(), 240);
+    EXPECT_EQ(front_end().Yields(), 240);
     throw Stopped();
   });
   EXPECT_THROW(program().f_results.Command1.Click(), Stopped);
@@ -124,8 +124,8 @@ TEST_F(DraftPoolTest, TheButtonReturnsWhenTheDraftIsOver) {
 }
 
 TEST_F(DraftPoolTest, ASecondPressInTheMiddleOfTheFirstIsRunInsideIt) {
-  for (int yield = 0; yield < 5; ++yield) desktop().AtYield([] {});
-  desktop().AtYield([this] {
+  for (int yield = 0; yield < 5; ++yield) front_end().AtYield([] {});
+  front_end().AtYield([this] {
     EXPECT_EQ(draft().List1.records.ListCount(), 6);
     program().f_results.Command1.Click();
     // A whole draft has run.
@@ -133,8 +133,8 @@ TEST_F(DraftPoolTest, ASecondPressInTheMiddleOfTheFirstIsRunInsideIt) {
     EXPECT_EQ(Events().size(), 12U);
     EXPECT_EQ(draft().List1.records.ListCount(), 20);
   });
-  desktop().AtWait([this] {  // the first of the inner draft
-    desktop().PassTime(std::chrono::seconds(1));
+  front_end().AtWait([this] {  // the first of the inner draft
+    front_end().PassTime(std::chrono::seconds(1));
   });
   program().f_results.Command1.Click();
   // The first press went on with its other fourteen goalies, then with a draft of its own.

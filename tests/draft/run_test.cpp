@@ -105,7 +105,7 @@ TEST_F(CpuDraftTest, AllTeamsHaveTheirTurnFromTheTopAndFromTheLastNameUp) {
         [&] { turns.push_back(draft().CurRank.Caption() + ": " + draft().CurTeam.Caption()); });
     SecondPasses();
   }
-  const auto start = desktop().SinceMidnight();
+  const auto start = front_end().SinceMidnight();
   draft().RunDraft();
   Lines expected;
   for (auto rank = kRanks.rbegin(); rank != kRanks.rend(); ++rank) {
@@ -114,7 +114,7 @@ TEST_F(CpuDraftTest, AllTeamsHaveTheirTurnFromTheTopAndFromTheLastNameUp) {
     }
   }
   EXPECT_EQ(turns, expected);
-  EXPECT_EQ(desktop().SinceMidnight() - start, std::chrono::seconds(108));
+  EXPECT_EQ(front_end().SinceMidnight() - start, std::chrono::seconds(108));
   EXPECT_TRUE(draft().Command1.Enabled());
   EXPECT_EQ(draft().CurRank.Caption(), "Rank F");
   EXPECT_EQ(draft().CurTeam.Caption(), "F0 Wolves");
@@ -273,9 +273,9 @@ TEST_F(CpuDraftTest, ThePlayerLetGoIsBackBeforeTheFileIsWritten) {
   SecondPasses();
   SecondPasses([this] {
     // Ten players are counted, then the pool of the position is shown again, line by line.
-    for (int yield = 0; yield < 10; ++yield) desktop().AtYield([] {});
+    for (int yield = 0; yield < 10; ++yield) front_end().AtYield([] {});
     for (int line = 1; line <= 5; ++line) {
-      desktop().AtYield([this, line] {
+      front_end().AtYield([this, line] {
         EXPECT_EQ(draft().List4.shown.ListCount(), line);
         EXPECT_EQ(ordvik().counts().file_writes, 0);
       });
@@ -336,9 +336,9 @@ TEST_F(CpuDraftTest, ALeaverOfNoPositionIsLostToThePool) {
 TEST_F(CpuDraftTest, EveryWalkOfATurnYields) {
   const auto yields_of = [this](const Lines& roster, std::initializer_list<int> rolls) {
     FillPool(5, 70);
-    const auto before = desktop().Yields();
+    const auto before = front_end().Yields();
     FirstTurn(roster, rolls);
-    return desktop().Yields() - before;
+    return front_end().Yields() - before;
   };
   constexpr int kLoad = 11 * 9;
   constexpr int kCount = 10;
@@ -359,9 +359,9 @@ TEST_F(CpuDraftTest, BetweenTwoTurnsTheDraftYields) {
   std::int64_t before = 0;
   SecondPasses();
   SecondPasses();
-  SecondPasses([&] { before = desktop().Yields(); });
+  SecondPasses([&] { before = front_end().Yields(); });
   Stop();  // in the first wait of the next turn
-  EXPECT_EQ(desktop().Yields() - before, 1);
+  EXPECT_EQ(front_end().Yields() - before, 1);
 }
 
 TEST_F(CpuDraftTest, ARosterOfFewerThanEightEndsTheProgramWithNothingWritten) {

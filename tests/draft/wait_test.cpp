@@ -8,11 +8,11 @@ namespace {
 class WaitSecondsTest : public GameFixture {
  protected:
   std::chrono::microseconds Waited(const std::string& seconds) {
-    const auto before = desktop().Waits();
-    const auto start = desktop().SinceMidnight();
+    const auto before = front_end().Waits();
+    const auto start = front_end().SinceMidnight();
     ordvik().WaitSeconds(seconds);
-    waits = desktop().Waits() - before;
-    return desktop().SinceMidnight() - start;
+    waits = front_end().Waits() - before;
+    return front_end().SinceMidnight() - start;
   }
   std::int64_t waits = 0;
 };
@@ -35,12 +35,12 @@ TEST_F(WaitSecondsTest, AWaitBeyondAllBoundsLastsADay) {
   }
   EXPECT_EQ(Waited("-1e300"), hours(0));
   // So it does by a clock that starts at 0 again.
-  desktop().SetSinceMidnight(hours(20), true);
+  front_end().SetSinceMidnight(hours(20), true);
   std::int64_t ticks = 0;
   franchise().Timer1.OnTick = [&] { ++ticks; };
   franchise().Timer1.Enable();
   ordvik().WaitSeconds("1e300");
-  EXPECT_EQ(desktop().SinceMidnight(), hours(20));
+  EXPECT_EQ(front_end().SinceMidnight(), hours(20));
   EXPECT_EQ(ticks, 24 * 60 * 60);
 }
 
@@ -55,20 +55,20 @@ TEST_F(WaitSecondsTest, TimersTickWhileItWaits) {
 TEST_F(WaitSecondsTest, AWaitAcrossMidnightLastsUntilTheSameTimeOfTheNextDay) {
   using std::chrono::hours;
   using std::chrono::milliseconds;
-  desktop().SetSinceMidnight(hours(24) - milliseconds(300), true);
-  const auto start = desktop().SinceMidnight();
+  front_end().SetSinceMidnight(hours(24) - milliseconds(300), true);
+  const auto start = front_end().SinceMidnight();
   std::int64_t ticks = 0;
   franchise().Timer1.OnTick = [&] { ++ticks; };
   franchise().Timer1.Enable();
   ordvik().WaitSeconds("1");
-  EXPECT_EQ(desktop().SinceMidnight(), start);
+  EXPECT_EQ(front_end().SinceMidnight(), start);
   EXPECT_EQ(ticks, 24 * 60 * 60);
 }
 
 TEST_F(WaitSecondsTest, AWaitThatEndsBeforeMidnightIsOrdinary) {
   using std::chrono::hours;
   using std::chrono::milliseconds;
-  desktop().SetSinceMidnight(hours(24) - milliseconds(1300), true);
+  front_end().SetSinceMidnight(hours(24) - milliseconds(1300), true);
   EXPECT_EQ(Waited("1"), milliseconds(1000));
 }
 

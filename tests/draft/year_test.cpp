@@ -20,11 +20,11 @@ class YearTest : public GameFixture {
 
   // What the user does in each wait of the off-season.
   void Answer() {
-    desktop().AtWait([this] {
+    front_end().AtWait([this] {
       FDraft& draft = program().f_draft;
       if (!draft.Visible()) throw LeftWaiting();
       if (!draft.AwaitingPick) {
-        desktop().PassTime(std::chrono::seconds(1));
+        front_end().PassTime(std::chrono::seconds(1));
       } else if (program().f_select_draft.Visible()) {
         LetGo();
       } else {
@@ -34,13 +34,13 @@ class YearTest : public GameFixture {
     });
   }
   void LetGo() {
-    desktop().QueueAnswer("yes");
+    front_end().QueueAnswer("yes");
     program().f_select_draft.List1.DoubleClick(10);
   }
   void Pick() {
     for (ListPair* list : program().f_draft.Pool()) {
       if (!list->shown.Enabled()) continue;
-      desktop().QueueAnswer("yes");
+      front_end().QueueAnswer("yes");
       list->shown.DoubleClick(0);
       return;
     }
@@ -69,7 +69,7 @@ class YearTest : public GameFixture {
 
   void PlayYear() {
     SetLines();
-    desktop().QueueAnswer("11");
+    front_end().QueueAnswer("11");
     if (!answering_) Answer();
     answering_ = true;
     try {
@@ -103,7 +103,7 @@ TEST_F(YearTest, ThreeYearsLeaveTheWorldWhole) {
     }
     EXPECT_EQ(ReadLines(world.TeamPath(franchise().MyRank.Caption(), "C2 Wolves")).size(), 11U);
     EXPECT_EQ(world.SettingsNames().size(), 8U);
-    EXPECT_EQ(desktop().LeftOverAnswers(), 0U);
+    EXPECT_EQ(front_end().LeftOverAnswers(), 0U);
   }
 }
 

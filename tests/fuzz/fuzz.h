@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "program/program.h"
-#include "ui/headless_desktop.h"
+#include "tests/support/scripted_front_end.h"
 
 namespace frostmark::test {
 
@@ -34,9 +34,9 @@ class CountingDice : public Dice {
 // A game without a world: nothing is read, and what it writes reaches no folder.
 struct Game {
   explicit Game(const std::string& app_path = "/nonexistent/frostmark")
-      : program(desktop, dice, app_path) {}
+      : program(front_end, dice, app_path) {}
 
-  HeadlessDesktop desktop;
+  ScriptedFrontEnd front_end;
   CountingDice dice;
   Program program;
 };

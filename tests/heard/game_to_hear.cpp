@@ -19,15 +19,15 @@ int main(int argc, char** argv) {
   DressApplication(FittingZoom());
 
   test::WindowGame game;
-  Guard& guard = game.desktop().guard();
+  Guard& guard = game.front_end().guard();
   Game& match = game.program().game;
   const Ticker first(match.Timer1, guard, kStep);
   const Ticker second(match.Timer2, guard, kStep);
   const Ticker third(match.Timer3, guard, kStep);
 
   game.Start();
-  while (game.desktop().ExitCode() < 0) {
+  while (game.front_end().ExitCode() < 0) {
     QApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
   }
-  return game.desktop().ExitCode();
+  return game.front_end().ExitCode();
 }

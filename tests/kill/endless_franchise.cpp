@@ -13,7 +13,7 @@
 #include <string>
 
 #include "program/program.h"
-#include "ui/headless_desktop.h"
+#include "tests/support/scripted_front_end.h"
 
 namespace frostmark {
 namespace {
@@ -26,7 +26,7 @@ void Say(std::string line) {
 
 // A user who always goes on. A press may stay open permanently beneath what comes next, so that
 // they act wherever the program waits for them.
-class EndlessUser : public HeadlessDesktop {
+class EndlessUser : public test::ScriptedFrontEnd {
  public:
   void Play(Program& program) { program_ = &program; }
 

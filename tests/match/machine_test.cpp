@@ -49,8 +49,8 @@ TYPED_TEST(MatchMachineTest, AFaceOffIsATossAndOneToSixPasses) {
 TYPED_TEST(MatchMachineTest, ACentreOnceFoundTakesThePuckThoughTheLinesAreClearedMeanwhile) {
   for (const int winner : {1, 2}) {
     this->LineUp(LeadLine(1), LeadLine(2));
-    for (int yield = 1; yield < 12; ++yield) this->desktop().AtYield([] {});
-    this->desktop().AtYield([this] {  // both lines have been walked
+    for (int yield = 1; yield < 12; ++yield) this->front_end().AtYield([] {});
+    this->front_end().AtYield([this] {  // both lines have been walked
       this->lists().Line1Stats.Clear();
       this->lists().Line2Stats.Clear();
     });
@@ -327,9 +327,9 @@ constexpr int kWalk = 6;
 TYPED_TEST(MatchMachineTest, EveryWalkYieldsForEachRecord) {
   const auto yields = [this](std::initializer_list<int> rolls) {
     this->machine().PuckPosition = "CF";
-    const auto before = this->desktop().Yields();
+    const auto before = this->front_end().Yields();
     this->Play(rolls);
-    return this->desktop().Yields() - before;
+    return this->front_end().Yields() - before;
   };
   // Two centres and the ice lists; then the next step has set its lists when it asks.
   constexpr int kFaceOff = 3 * kWalk;

@@ -20,7 +20,7 @@ class GameScreenTest : public GameFixture {
   // Plays the period of TIMER to its last tick, from the press of "Start" on.
   void PlayPeriod() {
     game().HighButton1.Click();
-    desktop().PassTime(std::chrono::milliseconds(100 * 201));
+    front_end().PassTime(std::chrono::milliseconds(100 * 201));
   }
   Lines RunningTimers() {
     Lines running;
@@ -106,7 +106,7 @@ TEST_F(GameScreenTest, SetUpShowsBothTeams) {
   EXPECT_TRUE(game().HighButton1.Visible());
   EXPECT_FALSE(game().HighButton2.Visible());
   EXPECT_TRUE(game().Visible());
-  EXPECT_EQ(desktop().Yields(), 22);  // one a record, on whichever line
+  EXPECT_EQ(front_end().Yields(), 22);  // one a record, on whichever line
   EXPECT_TRUE(dice().Rolls().empty());
 }
 
@@ -148,7 +148,7 @@ TEST_F(GameScreenTest, OnlyPlayersWithNComeOntoTheIce) {
   SetUpMatch();
   EXPECT_EQ(game().Line1Stats.ListCount(), 6);
   EXPECT_EQ(game().Line1.ListCount(), 6);
-  EXPECT_EQ(desktop().Yields(), 15 + 11);
+  EXPECT_EQ(front_end().Yields(), 15 + 11);
 }
 
 TEST_F(GameScreenTest, ARatingWithoutItsPlayerKeepsTheLastOne) {
@@ -217,9 +217,9 @@ TEST_F(GameScreenTest, ATickOfTheFirstPeriodIsALineAtTheBottomAndAStep) {
   game().PuckPosition = "CF";
   dice().Give({1, 6, 1, 1});
   game().HighButton1.Click();
-  desktop().PassTime(std::chrono::milliseconds(99));
+  front_end().PassTime(std::chrono::milliseconds(99));
   EXPECT_EQ(game().Period1.Value(), 0);
-  desktop().PassTime(std::chrono::milliseconds(101));
+  front_end().PassTime(std::chrono::milliseconds(101));
   EXPECT_EQ(game().Period1.Value(), 2);
   EXPECT_EQ(ItemsOf(game().Events),
             (Lines{"Dean Player passes it to Earl Player", "Earl Player passes it to Dean Player",
@@ -244,12 +244,12 @@ int CountOf(const RecordList& list, const std::string& line) {
 TEST_F(GameScreenTest, AGameIsThreePeriodsOfTwoHundredSteps) {
   SetUpMatch();
   game().HighButton1.Click();
-  desktop().PassTime(std::chrono::milliseconds(100 * 200));
+  front_end().PassTime(std::chrono::milliseconds(100 * 200));
   EXPECT_EQ(game().Period1.Value(), 200);
   EXPECT_FALSE(game().HighButton1.Visible());
   EXPECT_EQ(RunningTimers(), Lines{"Timer1"});
   const int lines = game().Events.ListCount();
-  desktop().PassTime(std::chrono::milliseconds(100));
+  front_end().PassTime(std::chrono::milliseconds(100));
   EXPECT_TRUE(game().HighButton1.Visible());
   EXPECT_EQ(RunningTimers(), Lines{});
   EXPECT_EQ(game().Events.ListCount(), lines);
@@ -274,7 +274,7 @@ TEST_F(GameScreenTest, AGameIsThreePeriodsOfTwoHundredSteps) {
   EXPECT_EQ(game().Events.List(game().Events.ListCount() - 1), "End of the second period!");
   // Time goes on and nothing more happens.
   const Lines events = ItemsOf(game().Events);
-  desktop().PassTime(std::chrono::seconds(60));
+  front_end().PassTime(std::chrono::seconds(60));
   EXPECT_EQ(ItemsOf(game().Events), events);
 }
 
@@ -282,12 +282,12 @@ TEST_F(GameScreenTest, ATickNeverStartsInsideAnother) {
   SetUpMatch();
   game().HighButton1.Click();
   for (int yield = 0; yield < 3; ++yield) {
-    desktop().AtYield([this] {
-      desktop().PassTime(std::chrono::seconds(1));
+    front_end().AtYield([this] {
+      front_end().PassTime(std::chrono::seconds(1));
       EXPECT_EQ(game().Period1.Value(), 1);
     });
   }
-  desktop().PassTime(std::chrono::milliseconds(100));
+  front_end().PassTime(std::chrono::milliseconds(100));
   EXPECT_EQ(game().Period1.Value(), 1);
 }
 
@@ -361,7 +361,7 @@ TEST_F(GameScreenTest, TheCloseMarkAbandonsTheGameAndKeepsTheFranchiseWaiting) {
     game().FranchiseMatch = franchise_match;
     SetUpMatch();
     game().HighButton1.Click();
-    desktop().PassTime(std::chrono::seconds(1));
+    front_end().PassTime(std::chrono::seconds(1));
     game().HighButton2.Show();
     game().Timer2.Enable();
     game().Timer3.Enable();
@@ -391,18 +391,18 @@ TEST_F(GameScreenTest, TheCloseMarkPressedInsideAStepLeavesTheGameAndHarmsNothin
       SetUpMatch();
       dice().ThenSeeded(static_cast<std::uint32_t>(roll));
       game().HighButton1.Click();
-      desktop().PassTime(std::chrono::milliseconds(100 * roll));
+      front_end().PassTime(std::chrono::milliseconds(100 * roll));
       bool left = false;
       const auto leave = [&] {
         left = true;
         game().Label5.Click();
         EXPECT_EQ(game().LineList.ListCount(), 0);
       };
-      for (int before = 0; before < yield; ++before) desktop().AtYield([] {});
-      desktop().AtYield(leave);
-      desktop().PassTime(std::chrono::milliseconds(100));
+      for (int before = 0; before < yield; ++before) front_end().AtYield([] {});
+      front_end().AtYield(leave);
+      front_end().PassTime(std::chrono::milliseconds(100));
       const int played = game().Period1.Value();
-      desktop().PassTime(std::chrono::seconds(5));
+      front_end().PassTime(std::chrono::seconds(5));
       if (!left) {  // the step was shorter than that: it happened in the next one
         ADD_FAILURE() << "no step reached its yield " << yield;
         continue;
@@ -429,8 +429,8 @@ TEST_F(GameScreenTest, TheCloseMarkPressedInsideAStepLeavesTheGameAndHarmsNothin
 TEST_F(GameScreenTest, TheCloseMarkPressedWhileTheLinesComeOnTheIceLeavesEmptyPlaces) {
   SetUpMatch();
   constexpr int kYieldsOfTwoCentres = 12;
-  for (int yield = 0; yield < kYieldsOfTwoCentres + 1; ++yield) desktop().AtYield([] {});
-  desktop().AtYield([this] {
+  for (int yield = 0; yield < kYieldsOfTwoCentres + 1; ++yield) front_end().AtYield([] {});
+  front_end().AtYield([this] {
     ASSERT_EQ(game().LineList.ListCount(), 2);
     game().Label5.Click();
   });
@@ -441,8 +441,8 @@ TEST_F(GameScreenTest, TheCloseMarkPressedWhileTheLinesComeOnTheIceLeavesEmptyPl
 
 TEST_F(GameScreenTest, TheCloseMarkPressedInsideAFaceOffLeavesTheCentreThatWasFound) {
   SetUpMatch();
-  for (int yield = 1; yield < 12; ++yield) desktop().AtYield([] {});
-  desktop().AtYield([this] { game().Label5.Click(); });
+  for (int yield = 1; yield < 12; ++yield) front_end().AtYield([] {});
+  front_end().AtYield([this] { game().Label5.Click(); });
   dice().Give({2, 3});
   game().HighButton1.Click();
   EXPECT_EQ(game().PuckCarrier, visitor.List(4));

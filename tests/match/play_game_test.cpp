@@ -27,7 +27,7 @@ class PlayGameTest : public GameFixture {
   // Plays a watched game of the user's that ends HOME_GOALS to VISITOR_GOALS.
   void Watch(const std::string& name1, const std::string& name2, const std::string& home_goals,
              const std::string& visitor_goals) {
-    desktop().AtWait([=, this] {
+    front_end().AtWait([=, this] {
       game().Label3.SetCaption(home_goals);
       game().Label4.SetCaption(visitor_goals);
       game().HighButton2.Click();
@@ -54,7 +54,7 @@ TEST_F(PlayGameTest, AGameOfOthersIsSimulatedAndCounted) {
   franchise().LooseOrWin.SetCaption("before");
   franchise().Label19.SetCaption("vs before");
   franchise().PlayGame("F1 Wolves", "F2 Wolves", "F");
-  EXPECT_EQ(desktop().Waits(), 0);
+  EXPECT_EQ(front_end().Waits(), 0);
   EXPECT_FALSE(game().Visible());
   ASSERT_GT(franchise().Score1, 0);
   EXPECT_EQ(franchise().Score2, 0);
@@ -158,7 +158,7 @@ TEST_F(PlayGameTest, AnyOtherLetterCountsAndTrainsNothing) {
 TEST_F(PlayGameTest, TheUsersGameIsWatched) {
   franchise().OppTeam.SetCaption("F1 Wolves");
   franchise().Show();
-  desktop().AtWait([this] {
+  front_end().AtWait([this] {
     EXPECT_TRUE(game().FranchiseMatch);
     EXPECT_TRUE(game().Visible());
     EXPECT_TRUE(game().HighButton1.Visible());
@@ -181,21 +181,21 @@ TEST_F(PlayGameTest, TheUsersGameIsWatched) {
 }
 
 TEST_F(PlayGameTest, AWholeGameIsPlayedInTheWait) {
-  desktop().AtWait([this] { game().HighButton1.Click(); });
+  front_end().AtWait([this] { game().HighButton1.Click(); });
   for (int wait = 0; wait < 201; ++wait)
-    desktop().AtWait([this] { desktop().PassTime(std::chrono::milliseconds(100)); });
-  desktop().AtWait([this] {
+    front_end().AtWait([this] { front_end().PassTime(std::chrono::milliseconds(100)); });
+  front_end().AtWait([this] {
     EXPECT_EQ(game().Period1.Value(), 200);
     EXPECT_TRUE(game().HighButton1.Visible());
     for (int period = 0; period < 2; ++period) {
       game().HighButton1.Click();
-      desktop().PassTime(std::chrono::milliseconds(100 * 201));
+      front_end().PassTime(std::chrono::milliseconds(100 * 201));
     }
     EXPECT_TRUE(game().HighButton2.Visible());
     game().HighButton2.Click();
   });
   franchise().PlayGame("F0 Wolves", "F1 Wolves", "F");
-  EXPECT_EQ(desktop().Waits(), 203);
+  EXPECT_EQ(front_end().Waits(), 203);
   EXPECT_NE(franchise().LooseOrWin.Caption(), "");
 }
 
@@ -231,7 +231,7 @@ TEST_F(PlayGameTest, InASimRunTheUsersGameIsNotWatched) {
   franchise().SimRunning = true;
   franchise().OppTeam.SetCaption("F1 Wolves");
   franchise().PlayGame("F1 Wolves", "F0 Wolves", "F");
-  EXPECT_EQ(desktop().Waits(), 0);
+  EXPECT_EQ(front_end().Waits(), 0);
   EXPECT_FALSE(game().Visible());
   EXPECT_FALSE(game().FranchiseMatch);
   EXPECT_EQ(franchise().LooseOrWin.Caption(),
@@ -243,19 +243,19 @@ TEST_F(PlayGameTest, InASimRunTheUsersGameIsNotWatched) {
 TEST_F(PlayGameTest, NamesAreTheUsersOnlyWhenTheyAreEqual) {
   franchise().TeamName.SetCaption("f1 wolves");
   franchise().PlayGame("F1 Wolves", "F2 Wolves", "F");
-  EXPECT_EQ(desktop().Waits(), 0);
+  EXPECT_EQ(front_end().Waits(), 0);
   EXPECT_EQ(franchise().LooseOrWin.Caption(), "");
 }
 
 TEST_F(PlayGameTest, AnAbandonedGameWaitsUnderTheStartScreenForTheNext) {
   franchise().Score1 = 4;  // of the game before
   franchise().Score2 = 1;
-  desktop().AtWait([this] {
+  front_end().AtWait([this] {
     game().HighButton1.Click();
-    desktop().PassTime(std::chrono::seconds(5));
+    front_end().PassTime(std::chrono::seconds(5));
     game().Label5.Click();
   });
-  desktop().AtWait([this] {
+  front_end().AtWait([this] {
     EXPECT_TRUE(game().FranchiseMatch);
     EXPECT_TRUE(startup().Visible());
     EXPECT_EQ(Standing("F0 Wolves"), "(0-0-0) F0 Wolves");
@@ -269,7 +269,7 @@ TEST_F(PlayGameTest, AnAbandonedGameWaitsUnderTheStartScreenForTheNext) {
     EXPECT_EQ(Standing("F0 Wolves"), "(0-0-0) F0 Wolves");
   });
   franchise().PlayGame("F0 Wolves", "F1 Wolves", "F");
-  EXPECT_EQ(desktop().Waits(), 2);
+  EXPECT_EQ(front_end().Waits(), 2);
   EXPECT_EQ(Standing("F0 Wolves"), "(1-0-0) F0 Wolves");
   EXPECT_EQ(franchise().LooseOrWin.Caption(), "You won 4 - 1");
   EXPECT_EQ(franchise().Alerts.List(0), "F0 Wolves beat F1 Wolves 4 to 1");
@@ -292,8 +292,8 @@ TEST_F(PlayGameTest, ARosterWithTextForANumberEndsTheProgramWithoutWriting) {
 
 TEST_F(PlayGameTest, AMissingTeamFileIsReadWithoutEnd) {
   struct Left {};
-  desktop().AtWait([] {});
-  desktop().AtWait([] { throw Left(); });
+  front_end().AtWait([] {});
+  front_end().AtWait([] { throw Left(); });
   EXPECT_THROW(franchise().PlayGame("F1 Wolves", "No Such Team", "F"), Left);
   EXPECT_EQ(franchise().Team1.ListCount(), 11);
   EXPECT_EQ(franchise().Alerts.ListCount(), 0);
@@ -328,7 +328,7 @@ class OnInsertion : public RecordList::Observer {
 TEST_F(PlayGameTest, StandingsTrainingResultAndNewsFollowInThisOrder) {
   franchise().LooseOrWin.SetCaption("before");
   dice().ThenAlways(100);  // nobody trains
-  desktop().AtWait([this] {
+  front_end().AtWait([this] {
     game().Label3.SetCaption("3");
     game().Label4.SetCaption("1");
     game().HighButton2.Click();
@@ -337,12 +337,12 @@ TEST_F(PlayGameTest, StandingsTrainingResultAndNewsFollowInThisOrder) {
     WriteText(PathOf("F1 Wolves"), "");
     // The standings' two searches: the winner is found at once, the loser's walk is six.
     for (int yield = 0; yield < 6; ++yield) {
-      desktop().AtYield([this] { EXPECT_EQ(Standing("F0 Wolves"), "(1-0-0) F0 Wolves"); });
+      front_end().AtYield([this] { EXPECT_EQ(Standing("F0 Wolves"), "(1-0-0) F0 Wolves"); });
     }
     // Then the two trainings: players, the picking of the computer's lines, lines of the file.
     for (const int yields : {11 + 11, 11 + 10 * 10 + 11}) {
       for (int yield = 0; yield < yields; ++yield) {
-        desktop().AtYield([=, this] {
+        front_end().AtYield([=, this] {
           EXPECT_EQ(Standing("F1 Wolves"), "(0-1-0) F1 Wolves");
           EXPECT_EQ(ReadLines(PathOf("F0 Wolves")).size(), yields == 22 ? 0U : 11U);
           EXPECT_EQ(ReadLines(PathOf("F1 Wolves")).size(), 0U);
@@ -369,11 +369,11 @@ TEST_F(PlayGameTest, TheGameIsTheFranchisesBeforeItIsSetUpAndTheOpponentGoesOnly
   franchise().OppTeam.SetCaption("F1 Wolves");
   constexpr int kYieldsOfLoading = 2 * 11 * 9;
   for (int yield = 0; yield < kYieldsOfLoading; ++yield) {
-    desktop().AtYield([this] { EXPECT_FALSE(game().FranchiseMatch); });
+    front_end().AtYield([this] { EXPECT_FALSE(game().FranchiseMatch); });
   }
   int looks = 0;
   for (int yield = 0; yield < 22; ++yield) {  // the set-up of both lines
-    desktop().AtYield([&] {
+    front_end().AtYield([&] {
       ++looks;
       EXPECT_TRUE(game().FranchiseMatch);
       EXPECT_EQ(game().GHome.Caption(), "F0 Wolves");
@@ -382,7 +382,7 @@ TEST_F(PlayGameTest, TheGameIsTheFranchisesBeforeItIsSetUpAndTheOpponentGoesOnly
       EXPECT_FALSE(game().Visible());
     });
   }
-  desktop().AtWait([&] {
+  front_end().AtWait([&] {
     EXPECT_EQ(looks, 22);
     EXPECT_EQ(franchise().OppTeam.Caption(), "");
     game().HighButton2.Click();
@@ -395,9 +395,9 @@ TEST_F(PlayGameTest, AGameThatWasAbandonedForALoadGoesOnWaitingUnderTheLoadedFra
   franchise().SaveGame();
   WriteText(world.SettingsPath("StatRankF.fmk"), "(4-0-0) F0 Wolves\r\n(0-4-0) F1 Wolves\r\n");
   franchise().Show();
-  desktop().AtWait([this] {
+  front_end().AtWait([this] {
     game().HighButton1.Click();
-    desktop().PassTime(std::chrono::seconds(5));
+    front_end().PassTime(std::chrono::seconds(5));
     game().Label5.Click();
     startup().HighButton2.Click();
     startup().HighButton5.Click();
@@ -407,7 +407,7 @@ TEST_F(PlayGameTest, AGameThatWasAbandonedForALoadGoesOnWaitingUnderTheLoadedFra
     EXPECT_EQ(franchise().MainList.ListCount(), 12);  // a second load adds to the rosters
     EXPECT_EQ(Standing("F0 Wolves"), "(4-0-0) F0 Wolves");
   });
-  desktop().AtWait([this] {
+  front_end().AtWait([this] {
     EXPECT_TRUE(game().FranchiseMatch);
     EXPECT_EQ(franchise().Alerts.ListCount(), 0);
     game().FranchiseMatch = false;  // as the next single game has it
@@ -415,7 +415,7 @@ TEST_F(PlayGameTest, AGameThatWasAbandonedForALoadGoesOnWaitingUnderTheLoadedFra
   franchise().Score1 = 2;
   franchise().Score2 = 0;
   franchise().PlayGame("F0 Wolves", "F1 Wolves", "F");
-  EXPECT_EQ(desktop().Waits(), 2);
+  EXPECT_EQ(front_end().Waits(), 2);
   // The game counts, in the standings that were loaded meanwhile.
   EXPECT_EQ(Standing("F0 Wolves"), "(5-0-0) F0 Wolves");
   EXPECT_EQ(Standing("F1 Wolves"), "(0-5-0) F1 Wolves");

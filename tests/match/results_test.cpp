@@ -48,9 +48,9 @@ class StandingsTest : public GameFixture {
     FillList(list, lines);
     franchise().Score1 = score1;
     franchise().Score2 = score2;
-    const auto before = desktop().Yields();
+    const auto before = front_end().Yields();
     franchise().SetStandings(list, name1, name2);
-    yields = desktop().Yields() - before;
+    yields = front_end().Yields() - before;
     return ItemsOf(list);
   }
   std::int64_t yields = 0;
@@ -120,9 +120,9 @@ class TrimAlertsTest : public GameFixture {
   // Which of COUNT lines TrimAlerts removes.
   std::vector<int> RemovedOf(int count) {
     Fill(count);
-    const auto before = desktop().Yields();
+    const auto before = front_end().Yields();
     franchise().TrimAlerts();
-    yields = desktop().Yields() - before;
+    yields = front_end().Yields() - before;
     std::vector<int> removed;
     int at = 0;
     for (int i = 0; i < count; ++i) {
@@ -183,12 +183,12 @@ TEST_F(TrimAlertsTest, PlayWeekDoesNothing) {
   world.FillWorld();
   TakeOver("Rank F", "F0 Wolves");
   const Lines files = world.Everything();
-  const auto yields_before = desktop().Yields();
+  const auto yields_before = front_end().Yields();
   franchise().PlayWeek();
   EXPECT_TRUE(world.Everything() == files);
   EXPECT_EQ(franchise().NextWeek.Caption(), "Week 1");
   EXPECT_EQ(franchise().Alerts.ListCount(), 0);
-  EXPECT_EQ(desktop().Yields(), yields_before);
+  EXPECT_EQ(front_end().Yields(), yields_before);
   EXPECT_TRUE(dice().Rolls().empty());
 }
 

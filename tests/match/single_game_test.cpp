@@ -68,7 +68,7 @@ TEST_F(SingleGameTest, BeginAsksForTheTeamsThatAreMissing) {
     screen().HighButton1.Click();
     EXPECT_FALSE(game().Visible());
     EXPECT_TRUE(screen().Visible());
-    const MessageBox& box = desktop().Boxes().back();
+    const MessageBox& box = front_end().Boxes().back();
     EXPECT_EQ(box.icon, BoxIcon::kStop);
     EXPECT_EQ(box.buttons, BoxButtons::kOk);
     return box.text;
@@ -81,7 +81,7 @@ TEST_F(SingleGameTest, BeginAsksForTheTeamsThatAreMissing) {
   screen().List3.Select(0);
   screen().File1.Select(0);
   EXPECT_EQ(refusal(), "Please select a home team!");
-  EXPECT_EQ(desktop().Boxes().size(), 3U);
+  EXPECT_EQ(front_end().Boxes().size(), 3U);
 }
 
 TEST_F(SingleGameTest, BeginSetsUpAMatchThatIsNoneOfTheFranchises) {
@@ -91,9 +91,9 @@ TEST_F(SingleGameTest, BeginSetsUpAMatchThatIsNoneOfTheFranchises) {
   screen().List4.Select(5);
   screen().File2.Select(1);
   const Lines before = world.Everything();
-  desktop().AtYield([this] { EXPECT_FALSE(game().FranchiseMatch); });
+  front_end().AtYield([this] { EXPECT_FALSE(game().FranchiseMatch); });
   screen().HighButton1.Click();
-  EXPECT_TRUE(desktop().Boxes().empty());
+  EXPECT_TRUE(front_end().Boxes().empty());
   EXPECT_FALSE(game().FranchiseMatch);
   EXPECT_TRUE(game().Visible());
   EXPECT_FALSE(screen().Visible());
@@ -104,7 +104,7 @@ TEST_F(SingleGameTest, BeginSetsUpAMatchThatIsNoneOfTheFranchises) {
 
   for (int period = 0; period < 3; ++period) {
     game().HighButton1.Click();
-    desktop().PassTime(std::chrono::milliseconds(100 * 201));
+    front_end().PassTime(std::chrono::milliseconds(100 * 201));
   }
   game().HighButton2.Click();
   EXPECT_TRUE(startup().Visible());
@@ -124,7 +124,7 @@ TEST_F(SingleGameTest, ASecondGameNeedsNoNewChoice) {
   // The start screen points both file lists at "Teams" again, where nothing is selected.
   startup().HighButton1.Click();
   screen().HighButton1.Click();
-  EXPECT_TRUE(desktop().Boxes().empty());
+  EXPECT_TRUE(front_end().Boxes().empty());
   EXPECT_EQ(game().GHome.Caption(), "");
   EXPECT_EQ(game().GVisitor.Caption(), "");
   EXPECT_EQ(game().Line1Stats.ListCount(), 6);
@@ -144,7 +144,7 @@ TEST_F(SingleGameTest, TheGameIsNotTheFranchisesBeforeItIsSetUp) {
   game().FranchiseMatch = true;
   int looks = 0;
   for (int yield = 0; yield < 22; ++yield) {
-    desktop().AtYield([&] {
+    front_end().AtYield([&] {
       ++looks;
       EXPECT_FALSE(game().FranchiseMatch);
       EXPECT_EQ(game().GHome.Caption(), "F0 Wolves");

@@ -43,7 +43,7 @@ TEST_F(UnwatchedMatchTest, TheLinesAreThePlayersWithN) {
   EXPECT_EQ(ItemsOf(franchise().Line2Stats), (Lines{roster[0], roster[1], roster[5], roster[10]}));
   EXPECT_EQ(machine().GoalsTeam1, 0);
   EXPECT_EQ(machine().GoalsTeam2, 0);
-  EXPECT_EQ(desktop().Yields(), 22);
+  EXPECT_EQ(front_end().Yields(), 22);
   EXPECT_TRUE(dice().Rolls().empty());
 }
 
@@ -52,7 +52,7 @@ TEST_F(UnwatchedMatchTest, TheFirstListIsWalkedFirst) {
   RecordList team2;
   FillList(team1, MakeRoster(80));
   FillList(team2, MakeRoster(80));
-  desktop().AtYield([&] {
+  front_end().AtYield([&] {
     EXPECT_EQ(franchise().Line1Stats.ListCount(), 1);
     EXPECT_EQ(franchise().Line2Stats.ListCount(), 0);
   });
@@ -65,11 +65,11 @@ TEST_F(UnwatchedMatchTest, AGameIsOneFaceOffAndSixHundredSteps) {
   dice().Give({1, 1, 1});
   machine().LoadGameLines(franchise().Line1Stats, franchise().Line2Stats);
   LineUp(line1, line2);
-  const auto before = desktop().Yields();
+  const auto before = front_end().Yields();
   machine().SimulateGame();
   // A pass, then 599 shots of a player who can't get one away: a side and a shot each.
   EXPECT_EQ(dice().Rolls().size(), 3U + 599U * 2U);
-  EXPECT_EQ(desktop().Yields() - before, 18 + (18 + 1) + 599 * (18 + 1));
+  EXPECT_EQ(front_end().Yields() - before, 18 + (18 + 1) + 599 * (18 + 1));
   EXPECT_EQ(machine().PassesLeft, 0);
   EXPECT_EQ(franchise().Score1, 0);
   EXPECT_EQ(franchise().Score2, 0);
@@ -130,9 +130,9 @@ TEST_F(UnwatchedMatchTest, ARightForwardStandsInForAMissingCentre) {
 
 TEST_F(UnwatchedMatchTest, TheStandInCostsAnotherWalk) {
   const auto yields = [this] {
-    const auto before = desktop().Yields();
+    const auto before = front_end().Yields();
     Play({2, 2});
-    return desktop().Yields() - before;
+    return front_end().Yields() - before;
   };
   const auto whole = yields();
   LineUp(Without(line1, {"CF"}), line2);
@@ -185,9 +185,9 @@ class ShotWatch : public Dice {
 };
 
 TEST_F(UnwatchedMatchTest, OnlyForwardsShoot) {
-  HeadlessDesktop other_desktop;
+  ScriptedFrontEnd other_front_end;
   ShotWatch watch;
-  Program other(other_desktop, watch, world.path());
+  Program other(other_front_end, watch, world.path());
   int shots = 0;
   watch.OnShot = [&] {
     const GameSimulation& game = other.game_simulation;

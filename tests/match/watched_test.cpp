@@ -40,10 +40,11 @@ TEST_F(WatchedMatchTest, AFaceOffIsReportedBeforeThePassesAreRolled) {
 TEST_F(WatchedMatchTest, NoRightForwardStandsInForAMissingCentre) {
   line2.erase(line2.begin() + kCF);
   LineUp(line1, line2);
-  const auto before = desktop().Yields();
+  const auto before = front_end().Yields();
   dice().Give({2, 3});
   game().PressStart();
-  EXPECT_EQ(desktop().Yields() - before, 6 + 5 + 5);  // two walks and the ice lists, no third walk
+  EXPECT_EQ(front_end().Yields() - before,
+            6 + 5 + 5);  // two walks and the ice lists, no third walk
   EXPECT_EQ(game().PuckCarrier, "");
   EXPECT_EQ(Reports(), Lines{" wins the face off!"});
   EXPECT_EQ(game().PassesLeft, 3);

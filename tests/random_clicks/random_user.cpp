@@ -57,8 +57,8 @@ void RandomUser::WaitFor(Time at_most) {
   // At the greatest depth nobody acts, and some waits never end.
   yields_left_ -= 100;
   if (yields_left_ <= 0) throw RoundOver();
-  if (at_most == Time::max() && !Timers().NextDue()) return;
-  HeadlessDesktop::WaitFor(at_most);
+  if (at_most == Time::max() && !NextDue()) return;
+  ScriptedFrontEnd::WaitFor(at_most);
 }
 
 Answer RandomUser::ShowBox(const MessageBox& box) {

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "program/program.h"
-#include "ui/headless_desktop.h"
+#include "tests/support/scripted_front_end.h"
 
 namespace frostmark::test {
 
@@ -15,7 +15,7 @@ struct RoundOver {};
 
 // A user who clicks, selects, types and answers at random, also while a procedure yields or waits.
 // What they do follows from the seed alone.
-class RandomUser : public HeadlessDesktop {
+class RandomUser : public ScriptedFrontEnd {
  public:
   // ACTS: how many things they do before they have had enough.
   RandomUser(std::uint32_t seed, int acts);

@@ -86,7 +86,7 @@ TEST_F(BadInputTest, AFolderInATeamFilesPlaceIsNotATeamAndStays) {
   // Reading it is reading a file that is not there.
   RecordList list;
   struct Enough {};
-  desktop().AtWait([] { throw Enough(); });
+  front_end().AtWait([] { throw Enough(); });
   EXPECT_THROW(ordvik().LoadPlayerFile(list, TeamFile()), Enough);
 }
 
@@ -95,7 +95,7 @@ TEST_F(BadInputTest, AMissingFolderTakesNothingAndIsNotMade) {
   Save(MakeRoster(80), TeamFile());
   EXPECT_FALSE(fs::exists(world.path() + "/Teams/Rank F"));
   EXPECT_TRUE(world.SettingsNames().empty());
-  EXPECT_TRUE(desktop().Boxes().empty());
+  EXPECT_TRUE(front_end().Boxes().empty());
   startup().File1.SetPath(ordvik().RankFolder("Rank F"));
   EXPECT_EQ(startup().File1.ListCount(), 0);
 }

@@ -49,16 +49,16 @@ TEST_F(FilesTest, SavesAnEmptyListAsAnEmptyFile) {
 
 TEST_F(FilesTest, SavingYieldsAfterEachLineAndTheFileStaysTheOldOneUntilTheEnd) {
   Save({"old"});
-  const auto before = desktop().Yields();
+  const auto before = front_end().Yields();
   int looks = 0;
   for (int i = 0; i < 3; ++i) {
-    desktop().AtYield([&] {
+    front_end().AtYield([&] {
       EXPECT_EQ(ReadText(TeamFile()), "old\r\n");
       ++looks;
     });
   }
   Save({"a", "b", "c"});
-  EXPECT_EQ(desktop().Yields() - before, 3);
+  EXPECT_EQ(front_end().Yields() - before, 3);
   EXPECT_EQ(looks, 3);
   EXPECT_EQ(ReadText(TeamFile()), "a\r\nb\r\nc\r\n");
 }
@@ -112,15 +112,15 @@ TEST_F(FilesTest, LoadingYieldsAfterEachItem) {
   const std::string content = JoinLines(MakeRoster(80));
   WriteText(TeamFile(), content);
   RecordList list;
-  const auto before = desktop().Yields();
+  const auto before = front_end().Yields();
   // The record is in the list when its ninth field has been read.
   for (int i = 1; i <= 9; ++i) {
-    desktop().AtYield([&list, i] { EXPECT_EQ(list.ListCount(), i == 9 ? 1 : 0) << i; });
+    front_end().AtYield([&list, i] { EXPECT_EQ(list.ListCount(), i == 9 ? 1 : 0) << i; });
   }
   ordvik().LoadPlayerFile(list, TeamFile());
-  EXPECT_EQ(desktop().Yields() - before, 99);
+  EXPECT_EQ(front_end().Yields() - before, 99);
   LoadAlerts("a\r\nb,c\r\n");
-  EXPECT_EQ(desktop().Yields() - before, 102);
+  EXPECT_EQ(front_end().Yields() - before, 102);
 }
 
 TEST_F(FilesTest, ABlankLastLineChangesNothing) {
@@ -146,7 +146,7 @@ TEST_F(FilesTest, AnIncompleteLastRecordIsLostInSilence) {
   EXPECT_EQ(LoadTeam(std::string(kRecord) + "\r\nJohn Doe,CF,85,82,91,70,83,23\r\n"),
             (Lines{kRecord}));
   EXPECT_TRUE(LoadTeam("John Doe,CF").empty());
-  EXPECT_TRUE(desktop().Boxes().empty());
+  EXPECT_TRUE(front_end().Boxes().empty());
 }
 
 TEST_F(FilesTest, AQuotedFieldRunsToTheNextQuote) {
@@ -166,8 +166,8 @@ TEST_F(FilesTest, LoadingAPlayerFileThatIsNotThereNeverEnds) {
   RecordList list;
   struct Enough {};
   int waits = 0;
-  for (int i = 0; i < 30; ++i) desktop().AtWait([&waits] { ++waits; });
-  desktop().AtWait([] { throw Enough(); });
+  for (int i = 0; i < 30; ++i) front_end().AtWait([&waits] { ++waits; });
+  front_end().AtWait([] { throw Enough(); });
   EXPECT_THROW(ordvik().LoadPlayerFile(list, world.TeamPath("Rank F", "Nobody")), Enough);
   EXPECT_EQ(waits, 30);
   EXPECT_EQ(ItemsOf(list), (Lines{",,,,,,,,", ",,,,,,,,", ",,,,,,,,"}));  // one every nine items
@@ -176,8 +176,8 @@ TEST_F(FilesTest, LoadingAPlayerFileThatIsNotThereNeverEnds) {
 TEST_F(FilesTest, LoadingASettingsListThatIsNotThereNeverEnds) {
   RecordList list;
   struct Enough {};
-  for (int i = 0; i < 4; ++i) desktop().AtWait([] {});
-  desktop().AtWait([] { throw Enough(); });
+  for (int i = 0; i < 4; ++i) front_end().AtWait([] {});
+  front_end().AtWait([] { throw Enough(); });
   EXPECT_THROW(ordvik().LoadSettingsList(list, "StatRankF.fmk"), Enough);
   EXPECT_EQ(ItemsOf(list), (Lines{"", "", "", "", ""}));
 }
@@ -185,8 +185,8 @@ TEST_F(FilesTest, LoadingASettingsListThatIsNotThereNeverEnds) {
 TEST_F(FilesTest, AnEndlessLoadStopsGrowingItsListWhenThatIsFull) {
   RecordList list;
   struct Enough {};
-  for (int i = 0; i < 33000; ++i) desktop().AtWait([] {});
-  desktop().AtWait([] { throw Enough(); });
+  for (int i = 0; i < 33000; ++i) front_end().AtWait([] {});
+  front_end().AtWait([] { throw Enough(); });
   EXPECT_THROW(ordvik().LoadSettingsList(list, "nothing"), Enough);
   EXPECT_EQ(list.ListCount(), 32767);
 }

@@ -77,35 +77,35 @@ TEST_F(RatingsTest, WithoutForwardsOrBacksTheSumsStay) {
 
 TEST_F(RatingsTest, YieldsAfterEachPlayer) {
   Rate(MakeRoster(80));
-  EXPECT_EQ(desktop().Yields(), 11);
+  EXPECT_EQ(front_end().Yields(), 11);
   Rate({Player("CF", 80), "", Player("GO", 70)});
-  EXPECT_EQ(desktop().Yields(), 12);
+  EXPECT_EQ(front_end().Yields(), 12);
 }
 
 TEST_F(RatingsTest, TheSumsAreInTheVariablesWhileItWalks) {
-  desktop().AtYield([this] { ExpectRatings(80, 0, 0); });
-  desktop().AtYield([this] { ExpectRatings(80, 70, 0); });
-  desktop().AtYield([this] { ExpectRatings(161, 70, 0); });
+  front_end().AtYield([this] { ExpectRatings(80, 0, 0); });
+  front_end().AtYield([this] { ExpectRatings(80, 70, 0); });
+  front_end().AtYield([this] { ExpectRatings(161, 70, 0); });
   Rate({Player("CF", 80), Player("GO", 70), Player("LF", 81)});
   ExpectRatings(80, 70, 75);
 }
 
 TEST_F(RatingsTest, ARatingInAYieldOfAnotherLeavesItsResultInTheSums) {
-  desktop().AtYield([this] { Rate({Player("CF", 99), Player("GO", 98)}); });
+  front_end().AtYield([this] { Rate({Player("CF", 99), Player("GO", 98)}); });
   Rate({Player("CF", 80), Player("GO", 70), Player("LD", 72)});
   ExpectRatings(99, 120, 110);  // (98 + 70 + 72) / 2, and 109.5 goes to the even one
   // At the last yield there is nothing left to add, and the other's result is divided once more.
-  desktop().AtYield([] {});
-  desktop().AtYield([this] { Rate({Player("CF", 90), Player("GO", 80)}); });
+  front_end().AtYield([] {});
+  front_end().AtYield([this] { Rate({Player("CF", 90), Player("GO", 80)}); });
   Rate({Player("CF", 50), Player("CF", 50), Player("GO", 70)});
   ExpectRatings(45, 150, 98);
 }
 
 TEST_F(RatingsTest, AListWithoutForwardsHasNothingToDivideTheSumOfAnotherRatingBy) {
-  desktop().AtYield([this] { Rate({Player("CF", 99), Player("GO", 99)}); });
+  front_end().AtYield([this] { Rate({Player("CF", 99), Player("GO", 99)}); });
   Rate({Player("GO", 70), Player("LD", 70)});
   ExpectRatings(99, 169, 99);
-  desktop().AtYield([this] { Rate({Player("CF", 99), Player("GO", 99)}); });
+  front_end().AtYield([this] { Rate({Player("CF", 99), Player("GO", 99)}); });
   Rate({Player("CF", 70), Player("LF", 70)});
   ExpectRatings(169, 99, 99);
 }
@@ -247,7 +247,7 @@ TEST_F(TrainingFlagsTest, OverallIsRecomputedForThosePaired) {
 
 TEST_F(TrainingFlagsTest, YieldsInTheInnerWalk) {
   Flagged(MakeRoster(80));
-  EXPECT_EQ(desktop().Yields(), 10 * 10);  // ten who are not goalies, each against ten
+  EXPECT_EQ(front_end().Yields(), 10 * 10);  // ten who are not goalies, each against ten
 }
 
 }  // namespace

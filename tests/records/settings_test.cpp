@@ -112,7 +112,7 @@ TEST_F(SettingsTest, WithoutASettingsFolderNothingIsWrittenAndNothingSaid) {
   ordvik().WriteSetting("Team", "Boston Braves");
   EXPECT_EQ(Read("Team"), "");
   EXPECT_FALSE(std::filesystem::exists(world.path() + "/Settings"));
-  EXPECT_TRUE(desktop().Boxes().empty());
+  EXPECT_TRUE(front_end().Boxes().empty());
 }
 
 }  // namespace

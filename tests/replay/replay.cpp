@@ -19,12 +19,12 @@ reference::Lines LinesOf(std::span<const char* const> names) {
 
 }  // namespace
 
-Replay::Replay(std::uint64_t seed) : seed_(seed), dice_(seed), desktop_(seed) { Restart(); }
+Replay::Replay(std::uint64_t seed) : seed_(seed), dice_(seed), front_end_(seed) { Restart(); }
 
 void Replay::Restart() {
   program_.reset();
-  program_ = std::make_unique<Program>(desktop_, dice_, AppPath());
-  desktop_.Play(*program_);
+  program_ = std::make_unique<Program>(front_end_, dice_, AppPath());
+  front_end_.Play(*program_);
   program_->Start();
   auto fresh = std::make_unique<reference::ReferenceGame>(AppPath(), LinesOf(GivenNames()),
                                                           LinesOf(FamilyNames()));
@@ -43,7 +43,7 @@ void Replay::PutFile(const std::string& path, const std::string& content) {
 }
 
 void Replay::Do(const std::string& what, InProgram in_program, InReference in_reference) {
-  desktop_.Then([this, in_program] {
+  front_end_.Then([this, in_program] {
     if (over_) return;
     try {
       in_program(*program_);
@@ -51,14 +51,14 @@ void Replay::Do(const std::string& what, InProgram in_program, InReference in_re
       fatal_ = error.what();
     }
   });
-  desktop_.Then([this, what, in_reference] {
+  front_end_.Then([this, what, in_reference] {
     if (!over_) Follow(what, in_reference);
   });
 }
 
 void Replay::Answer(const std::string& answer) {
-  desktop_.Then([this, answer] {
-    desktop_.QueueAnswer(answer);
+  front_end_.Then([this, answer] {
+    front_end_.QueueAnswer(answer);
     reference_->answers.push_back(answer);
   });
 }
@@ -66,11 +66,11 @@ void Replay::Answer(const std::string& answer) {
 void Replay::Follow(const std::string& what, const InReference& in_reference) {
   for (const RollPair& roll : dice_.Take()) reference_->rolls.Append({roll.n, roll.result});
   reference_->boxes.clear();
-  for (; !desktop_.own_answers.empty(); desktop_.own_answers.pop_front()) {
-    reference_->answers.push_back(desktop_.own_answers.front());
+  for (; !front_end_.own_answers.empty(); front_end_.own_answers.pop_front()) {
+    reference_->answers.push_back(front_end_.own_answers.front());
   }
-  std::swap(reference_->releases, desktop_.releases);
-  std::swap(reference_->picks, desktop_.picks);
+  std::swap(reference_->releases, front_end_.releases);
+  std::swap(reference_->picks, front_end_.picks);
   try {
     const bool rules_end = RulesEndToo(in_reference);
     if (rules_end && !fatal_) Fail(what, "the rules end the program, and it goes on");
@@ -95,7 +95,7 @@ void Replay::Compare(const std::string& what) {
   if (reference_->rolls.Left() > 0) {
     Fail(what, "the game made " + std::to_string(reference_->rolls.Left()) + " rolls too many");
   }
-  const reference::Lines told = desktop_.TakeBoxes();
+  const reference::Lines told = front_end_.TakeBoxes();
   if (told != reference_->boxes) {
     Fail(what, "the boxes of the program:\n  " + reference::JoinWith(told, '\n') +
                    "\nand of the reference:\n  " + reference::JoinWith(reference_->boxes, '\n'));

@@ -8,7 +8,7 @@
 
 #include "program/program.h"
 #include "tests/reference/reference_game.h"
-#include "tests/replay/replay_desktop.h"
+#include "tests/replay/replay_front_end.h"
 #include "tests/support/scripted_dice.h"
 #include "tests/support/temporary_world.h"
 
@@ -31,7 +31,7 @@ class Replay {
   // Queues an answer to a box, for both.
   void Answer(const std::string& answer);
   // Does all that is queued.
-  void Run() { desktop_.RunSteps(); }
+  void Run() { front_end_.RunSteps(); }
   // Puts a file, or a team's file, into the folder and before the reference.
   void PutFile(const std::string& path, const std::string& content);
   void PutTeam(const std::string& rank, const std::string& team, const reference::Lines& roster);
@@ -40,7 +40,7 @@ class Replay {
 
   Program& program() { return *program_; }
   reference::ReferenceGame& reference() { return *reference_; }
-  ReplayDesktop& desktop() { return desktop_; }
+  ReplayFrontEnd& front_end() { return front_end_; }
   ScriptedDice& dice() { return dice_; }
   const std::string& AppPath() const { return world_.path(); }
   // Whether a comparison has failed, or the program has ended by an error as the rules want it.
@@ -56,7 +56,7 @@ class Replay {
   std::uint64_t seed_;
   TemporaryWorld world_;
   ScriptedDice dice_;
-  ReplayDesktop desktop_;
+  ReplayFrontEnd front_end_;
   std::unique_ptr<Program> program_;
   std::unique_ptr<reference::ReferenceGame> reference_;
   std::optional<std::string> fatal_;

@@ -149,9 +149,9 @@ TEST_P(TroubleReplay, ASimRunCancelled) {
       "Sim and Cancel",
       [this](Program& program) {
         for (std::uint64_t yields = 1000 * (1 + GetParam() % 5); yields > 0; --yields) {
-          replay.desktop().AtYield([] {});
+          replay.front_end().AtYield([] {});
         }
-        replay.desktop().AtYield([&program] {
+        replay.front_end().AtYield([&program] {
           EXPECT_TRUE(program.franchise.Command5.Visible());
           program.franchise.Command5.Click();
         });
@@ -181,10 +181,10 @@ TEST_P(TroubleReplay, AFranchiseGameLeftForASingleGame) {
   DoSim(replay, "2");
   replay.Run();
   const std::string team = TeamOf("Rank C", 1);
-  replay.desktop().instead_of_watching = [this] {
+  replay.front_end().instead_of_watching = [this] {
     Program& program = replay.program();
     program.game.HighButton1.Click();
-    replay.desktop().PassTime(std::chrono::milliseconds(100 * 50));
+    replay.front_end().PassTime(std::chrono::milliseconds(100 * 50));
     program.game.Label5.Click();
     EXPECT_TRUE(program.game.FranchiseMatch);
     SetUpAgainstItself(program);

@@ -52,7 +52,7 @@ void QueuePeriod(Replay& replay, int period) {
   for (int tick = 1; tick <= 201; ++tick) {
     replay.Do(
         "tick " + std::to_string(tick) + " of " + name,
-        [&replay](Program&) { replay.desktop().PassTime(std::chrono::milliseconds(100)); },
+        [&replay](Program&) { replay.front_end().PassTime(std::chrono::milliseconds(100)); },
         [period](reference::ReferenceGame& rules) { rules.TickOfPeriod(period); });
   }
 }

@@ -22,7 +22,7 @@ TEST_F(LeagueListsTest, TheListsFollowTheFoldersAndAllRecordsStartAtZero) {
   franchise().Label19.SetCaption("vs somebody");
   franchise().NextWeek.SetCaption("Week 7");
   franchise().OppTeam.SetCaption("kept");
-  const auto before = desktop().Yields();
+  const auto before = front_end().Yields();
   franchise().LoadNewTeams();
   for (std::size_t league = 0; league < kRanks.size(); ++league) {
     const Lines names = world.FileNames(kRanks[league]);
@@ -35,7 +35,7 @@ TEST_F(LeagueListsTest, TheListsFollowTheFoldersAndAllRecordsStartAtZero) {
   EXPECT_EQ(franchise().Label19.Caption(), "");
   EXPECT_EQ(franchise().NextWeek.Caption(), "Week 7");
   EXPECT_EQ(franchise().OppTeam.Caption(), "kept");
-  EXPECT_EQ(desktop().Yields() - before, 36);
+  EXPECT_EQ(front_end().Yields() - before, 36);
 }
 
 TEST_F(LeagueListsTest, NamesAreOrderedWithoutRegardToCase) {
@@ -86,10 +86,10 @@ TEST_F(LeagueListsTest, TheLesserFormReadsTheNamesAloneAndFindsTheOpponent) {
   franchise().LooseOrWin.SetCaption("kept");
   franchise().Label19.SetCaption("kept too");
   franchise().NextWeek.SetCaption("Week 2");
-  const auto before = desktop().Yields();
+  const auto before = front_end().Yields();
   franchise().LoadNewTeamsTwo();
   // One a team, then the opponent's roster: nine a record to read, one to rate.
-  EXPECT_EQ(desktop().Yields() - before, 36 + 11 * 9 + 11);
+  EXPECT_EQ(front_end().Yields() - before, 36 + 11 * 9 + 11);
   EXPECT_EQ(ItemsOf(franchise().RankF), world.FileNames("Rank F"));
   EXPECT_EQ(ItemsOf(franchise().RankA), world.FileNames("Rank A"));
   EXPECT_EQ(ItemsOf(franchise().StatRankF), Lines{"(3-1-0) F0 Wolves"});

@@ -86,7 +86,7 @@ TEST_F(ScheduleTest, GenScheduleReadsTheFoldersAndStartsAtWeekOne) {
   for (ListBox* list : scratch) list->AddItem("left over");
   franchise().tempList.AddItem("left over");
   world.WriteTeam("Rank C", "a late team", MakeRoster(80));
-  const auto before = desktop().Yields();
+  const auto before = front_end().Yields();
   franchise().GenSchedule();
   EXPECT_EQ(franchise().NextWeek.Caption(), "Week 1");
   EXPECT_EQ(ItemsOf(franchise().RankC), (Lines{"a late team", "C0 Wolves", "C1 Wolves", "C2 Wolves",
@@ -97,7 +97,7 @@ TEST_F(ScheduleTest, GenScheduleReadsTheFoldersAndStartsAtWeekOne) {
   EXPECT_EQ(franchise().MyRank.Caption(), "Rank D");
   EXPECT_EQ(franchise().LooseOrWin.Caption(), "kept");
   // One a team, then the opponent's roster: nine a record to read, one to rate.
-  EXPECT_EQ(desktop().Yields() - before, 37 + 11 * 9 + 11);
+  EXPECT_EQ(front_end().Yields() - before, 37 + 11 * 9 + 11);
   EXPECT_EQ(Opponent(), (Lines{"F3 Wolves", "77", "77", "77"}));
 }
 
@@ -207,7 +207,7 @@ TEST_F(ScheduleTest, AShortLeagueLeavesTheUserWithoutAnOpponent) {
     EXPECT_EQ(Opponent(), (Lines{"", std::to_string(overall), "0", "0"}));
     EXPECT_EQ(franchise().tempList.ListCount(), 0);
     EXPECT_EQ(ordvik().counts().file_reads, reads);
-    EXPECT_EQ(desktop().Waits(), 0);
+    EXPECT_EQ(front_end().Waits(), 0);
   }
 }
 

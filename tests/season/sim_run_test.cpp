@@ -16,23 +16,23 @@ class SimRunTest : public GameFixture {
     dice().KeepRolls(false);
   }
   void Sim(const std::string& answer) {
-    desktop().QueueAnswer(answer);
+    front_end().QueueAnswer(answer);
     franchise().Command2.Click();
   }
   int GamesPlayed() { return static_cast<int>(ordvik().counts().file_writes) / 2; }
 
   void ExpectRefused(const std::string& answer, const std::string& text) {
     Sim(answer);
-    ASSERT_FALSE(desktop().Boxes().empty());
-    EXPECT_EQ(desktop().Boxes().back().text, text) << answer;
-    EXPECT_EQ(desktop().Boxes().back().icon, BoxIcon::kStop);
-    EXPECT_EQ(desktop().Boxes().back().buttons, BoxButtons::kOk);
+    ASSERT_FALSE(front_end().Boxes().empty());
+    EXPECT_EQ(front_end().Boxes().back().text, text) << answer;
+    EXPECT_EQ(front_end().Boxes().back().icon, BoxIcon::kStop);
+    EXPECT_EQ(front_end().Boxes().back().buttons, BoxButtons::kOk);
     EXPECT_FALSE(franchise().SimRunning);
     EXPECT_FALSE(franchise().Command5.Visible());
     EXPECT_EQ(GamesPlayed(), 0);
   }
   void When(std::function<bool()> is_time, std::function<void()> action) {
-    desktop().AtYield([=, this] {
+    front_end().AtYield([=, this] {
       if (is_time()) return action();
       When(is_time, action);
     });
@@ -45,16 +45,16 @@ constexpr const char* kNotGreater = "You must select a week greater than your cu
 TEST_F(SimRunTest, InTheOffSeasonNothingIsAsked) {
   franchise().NextWeek.SetCaption("Off Season");
   franchise().Command2.Click();
-  EXPECT_TRUE(desktop().Prompts().empty());
-  ASSERT_EQ(desktop().Boxes().size(), 1U);
-  EXPECT_EQ(desktop().Boxes()[0].text, "You can't simulate the off season!");
-  EXPECT_EQ(desktop().Boxes()[0].icon, BoxIcon::kStop);
+  EXPECT_TRUE(front_end().Prompts().empty());
+  ASSERT_EQ(front_end().Boxes().size(), 1U);
+  EXPECT_EQ(front_end().Boxes()[0].text, "You can't simulate the off season!");
+  EXPECT_EQ(front_end().Boxes()[0].icon, BoxIcon::kStop);
   EXPECT_FALSE(franchise().Command5.Visible());
 }
 
 TEST_F(SimRunTest, TheQuestionIsThis) {
   Sim("");
-  EXPECT_EQ(desktop().Prompts(), std::vector<std::string>{"Simulate until which week?"});
+  EXPECT_EQ(front_end().Prompts(), std::vector<std::string>{"Simulate until which week?"});
 }
 
 TEST_F(SimRunTest, WhatIsNotANumberIsRefused) {
@@ -98,7 +98,7 @@ TEST_F(SimRunTest, AMarkerWithoutANumberCountsAsNothingAndTheRunEndsWithCancel) 
     EXPECT_EQ(franchise().NextWeek.Caption(), marker);
     EXPECT_FALSE(franchise().SimRunning);
   }
-  EXPECT_TRUE(desktop().Boxes().empty());
+  EXPECT_TRUE(front_end().Boxes().empty());
   EXPECT_EQ(GamesPlayed(), 0);
   franchise().NextWeek.SetCaption("nonsense");
   ExpectRefused("0", kNotGreater);
@@ -120,7 +120,7 @@ TEST_F(SimRunTest, ACurrentWeekOfElevenIsNotAboveElevenAndRunsUntilCancel) {
          franchise().Command5.Click();
        });
   Sim("12");
-  EXPECT_TRUE(desktop().Boxes().empty());
+  EXPECT_TRUE(front_end().Boxes().empty());
   EXPECT_EQ(franchise().NextWeek.Caption(), "Week 11");
   // A number beyond all is above it.
   franchise().NextWeek.SetCaption("Week 99999");
@@ -133,8 +133,8 @@ TEST_F(SimRunTest, ARunStopsWithTheTargetAsTheNextWeek) {
   EXPECT_EQ(GamesPlayed(), 4 * 18);
   EXPECT_FALSE(franchise().SimRunning);
   EXPECT_FALSE(franchise().Command5.Visible());
-  EXPECT_TRUE(desktop().Boxes().empty());
-  EXPECT_EQ(desktop().Waits(), 0);
+  EXPECT_TRUE(front_end().Boxes().empty());
+  EXPECT_EQ(front_end().Waits(), 0);
   EXPECT_NE(franchise().LooseOrWin.Caption(), "");
   EXPECT_EQ(franchise().Label19.Caption(), "vs F2 Wolves");
 }
@@ -172,15 +172,15 @@ TEST_F(SimRunTest, DuringARunTheCancelButtonShows) {
 TEST_F(SimRunTest, BetweenTwoPressesARunYields) {
   // The same week twice, with the same dice: once by a press, once by a run of one press.
   franchise().SimRunning = true;
-  auto before = desktop().Yields();
+  auto before = front_end().Yields();
   franchise().HighButton1.Click();
-  const auto press = desktop().Yields() - before;
+  const auto press = front_end().Yields() - before;
   Restart();
   world.FillWorld();
   TakeOver("Rank F", "F0 Wolves");
-  before = desktop().Yields();
+  before = front_end().Yields();
   Sim("2");
-  EXPECT_EQ(desktop().Yields() - before, press + 1);
+  EXPECT_EQ(front_end().Yields() - before, press + 1);
 }
 
 TEST_F(SimRunTest, APressBetweenTwoPressesIsPlayedTooAndItsWeekCounts) {
@@ -225,7 +225,7 @@ TEST_F(SimRunTest, CancelEndsTheRunAfterTheWeekBeingPlayed) {
 }
 
 TEST_F(SimRunTest, ATargetBeyondTheScheduleGoesThroughTheOffSeason) {
-  desktop().AtWait([] { throw ProgramEnded(); });  // the next opponent may have moved
+  front_end().AtWait([] { throw ProgramEnded(); });  // the next opponent may have moved
   try {
     Sim("20");
   } catch (const ProgramEnded&) {
@@ -245,15 +245,15 @@ TEST_F(SimRunTest, ADoubledPositionIsAskedAboutBeforeEveryWeek) {
   world.WriteTeam("Rank F", "F0 Wolves", roster);
   franchise().ClearRoster();
   for (const std::string& record : roster) franchise().AddToRoster(record);
-  desktop().QueueAnswer("4");
-  for (const char* answer : {"no", "no", "no"}) desktop().QueueAnswer(answer);
+  front_end().QueueAnswer("4");
+  for (const char* answer : {"no", "no", "no"}) front_end().QueueAnswer(answer);
   franchise().Command2.Click();
   EXPECT_EQ(franchise().NextWeek.Caption(), "Week 4");
-  EXPECT_EQ(desktop().Boxes().size(), 3U);
-  EXPECT_EQ(desktop().LeftOverAnswers(), 0U);
+  EXPECT_EQ(front_end().Boxes().size(), 3U);
+  EXPECT_EQ(front_end().LeftOverAnswers(), 0U);
   // A yes ends the run.
-  desktop().QueueAnswer("9");
-  for (const char* answer : {"no", "yes"}) desktop().QueueAnswer(answer);
+  front_end().QueueAnswer("9");
+  for (const char* answer : {"no", "yes"}) front_end().QueueAnswer(answer);
   franchise().Command2.Click();
   EXPECT_EQ(franchise().NextWeek.Caption(), "Week 5");
   EXPECT_FALSE(franchise().SimRunning);
@@ -263,7 +263,7 @@ TEST_F(SimRunTest, AMissingPositionEndsTheRun) {
   franchise().MainList.RemoveItem(0);
   Sim("5");
   EXPECT_EQ(franchise().NextWeek.Caption(), "Week 1");
-  EXPECT_EQ(desktop().Boxes().size(), 1U);
+  EXPECT_EQ(front_end().Boxes().size(), 1U);
   EXPECT_FALSE(franchise().SimRunning);
   EXPECT_FALSE(franchise().Command5.Visible());
 }

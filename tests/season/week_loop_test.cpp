@@ -5,7 +5,7 @@
 #include "records/lines/player_line.h"
 #include "records/lines/standings_line.h"
 #include "tests/support/game_fixture.h"
-#include "tests/support/watchful_desktop.h"
+#include "tests/support/watchful_front_end.h"
 
 // The press of "Begin".
 
@@ -33,7 +33,7 @@ class WeekLoopTest : public GameFixture {
   }
   // Runs ACTION once, at the first yield or so at which IS_TIME.
   void When(std::function<bool()> is_time, std::function<void()> action) {
-    desktop().AtYield([=, this] {
+    front_end().AtYield([=, this] {
       if (is_time()) return action();
       When(is_time, action);
     });
@@ -61,10 +61,10 @@ TEST_F(WeekLoopTest, AMissingPositionIsRefused) {
     FillList(franchise().MainList, line);
     franchise().Command5.Show();
     franchise().LooseOrWin.SetCaption("kept");
-    const auto yields = desktop().Yields();
+    const auto yields = front_end().Yields();
     const Lines files = world.Everything();
     Begin();
-    const MessageBox& box = desktop().Boxes().back();
+    const MessageBox& box = front_end().Boxes().back();
     EXPECT_EQ(box.text, "You are missing a position!");
     EXPECT_EQ(box.icon, BoxIcon::kStop);
     EXPECT_EQ(box.buttons, BoxButtons::kOk);
@@ -73,22 +73,22 @@ TEST_F(WeekLoopTest, AMissingPositionIsRefused) {
     EXPECT_EQ(franchise().LooseOrWin.Caption(), "kept");
     EXPECT_FALSE(franchise().Timer1.Enabled());
     EXPECT_EQ(EnabledButtons(), 6);
-    EXPECT_EQ(desktop().Yields() - yields, 5);  // one a record of the lead line
+    EXPECT_EQ(front_end().Yields() - yields, 5);  // one a record of the lead line
     EXPECT_TRUE(world.Everything() == files);
   }
-  EXPECT_EQ(desktop().Boxes().size(), 6U);
+  EXPECT_EQ(front_end().Boxes().size(), 6U);
   EXPECT_TRUE(dice().Rolls().empty());
 }
 
 TEST_F(WeekLoopTest, AMissingPositionIsToldBeforeADoubledOne) {
   franchise().MainList.SetList(4, franchise().MainList.List(3));  // two "RF", no "CF"
   Begin();
-  ASSERT_EQ(desktop().Boxes().size(), 1U);
-  EXPECT_EQ(desktop().Boxes()[0].text, "You are missing a position!");
+  ASSERT_EQ(front_end().Boxes().size(), 1U);
+  EXPECT_EQ(front_end().Boxes()[0].text, "You are missing a position!");
 }
 
 TEST_F(WeekLoopTest, TheRunEndsWhenTheRefusalIsClosed) {
-  WatchfulDesktop watchful;
+  WatchfulFrontEnd watchful;
   Program other(watchful, dice(), world.path());
   bool cancel_shows = false;
   watchful.OnBox = [&] { cancel_shows = other.franchise.Command5.Visible(); };
@@ -110,7 +110,7 @@ TEST_F(WeekLoopTest, TheRunEndsWhenTheRefusalIsClosed) {
 TEST_F(WeekLoopTest, AnUnknownPositionCountsNowhere) {
   franchise().MainList.SetList(4, "Earl Player,cf,74,74,74,74,74,20,N");
   Begin();
-  EXPECT_EQ(desktop().Boxes()[0].text, "You are missing a position!");
+  EXPECT_EQ(front_end().Boxes()[0].text, "You are missing a position!");
   TakeOver("Rank F", "F0 Wolves");
   franchise().ClearRoster();
   Lines line = MakeRoster(74);
@@ -118,20 +118,20 @@ TEST_F(WeekLoopTest, AnUnknownPositionCountsNowhere) {
   line.push_back("Coach,XX,74,74,74,74,74,20,N");
   FillList(franchise().MainList, line);
   Begin();
-  EXPECT_EQ(desktop().Boxes().size(), 1U);
+  EXPECT_EQ(front_end().Boxes().size(), 1U);
   EXPECT_EQ(franchise().NextWeek.Caption(), "Week 2");
 }
 
 TEST_F(WeekLoopTest, ADoubledPositionAnsweredWithYesEndsThePress) {
   franchise().MainList.AddItem(franchise().TrainList.List(0));
   franchise().Command5.Show();
-  desktop().QueueAnswer("yes");
+  front_end().QueueAnswer("yes");
   Begin();
-  ASSERT_EQ(desktop().Boxes().size(), 1U);
-  EXPECT_EQ(desktop().Boxes()[0].text,
+  ASSERT_EQ(front_end().Boxes().size(), 1U);
+  EXPECT_EQ(front_end().Boxes()[0].text,
             "You have too many players on your lineup.\nWould you like to move one to training?");
-  EXPECT_EQ(desktop().Boxes()[0].icon, BoxIcon::kInformation);
-  EXPECT_EQ(desktop().Boxes()[0].buttons, BoxButtons::kYesNo);
+  EXPECT_EQ(front_end().Boxes()[0].icon, BoxIcon::kInformation);
+  EXPECT_EQ(front_end().Boxes()[0].buttons, BoxButtons::kYesNo);
   EXPECT_FALSE(franchise().Command5.Visible());
   EXPECT_EQ(franchise().NextWeek.Caption(), "Week 1");
   EXPECT_TRUE(dice().Rolls().empty());
@@ -140,9 +140,9 @@ TEST_F(WeekLoopTest, ADoubledPositionAnsweredWithYesEndsThePress) {
 TEST_F(WeekLoopTest, ADoubledPositionAnsweredWithNoIsPlayed) {
   franchise().MainList.AddItem(franchise().TrainList.List(0));
   franchise().Command5.Show();
-  desktop().QueueAnswer("no");
+  front_end().QueueAnswer("no");
   Begin();
-  EXPECT_EQ(desktop().Boxes().size(), 1U);
+  EXPECT_EQ(front_end().Boxes().size(), 1U);
   EXPECT_TRUE(franchise().Command5.Visible());
   EXPECT_EQ(franchise().NextWeek.Caption(), "Week 2");
 }
@@ -199,12 +199,12 @@ TEST_F(WeekLoopTest, DuringThePressTheButtonsAreDead) {
   franchise().LooseOrWin.SetCaption("before");
   franchise().Label19.SetCaption("vs before");
   for (int record = 0; record < 6; ++record) {
-    desktop().AtYield([this] {
+    front_end().AtYield([this] {
       EXPECT_EQ(EnabledButtons(), 6);
       EXPECT_EQ(franchise().LooseOrWin.Caption(), "before");
     });
   }
-  desktop().AtYield([this] {
+  front_end().AtYield([this] {
     EXPECT_EQ(EnabledButtons(), 0);
     EXPECT_TRUE(franchise().Timer1.Enabled());
     EXPECT_EQ(franchise().LooseOrWin.Caption(), "");
@@ -212,13 +212,13 @@ TEST_F(WeekLoopTest, DuringThePressTheButtonsAreDead) {
     EXPECT_TRUE(franchise().Command5.Enabled());
     EXPECT_TRUE(franchise().Command6.Enabled());
     // The label blinks, once a second.
-    desktop().PassTime(std::chrono::milliseconds(999));
+    front_end().PassTime(std::chrono::milliseconds(999));
     EXPECT_FALSE(franchise().Label18.Visible());
-    desktop().PassTime(std::chrono::milliseconds(1));
+    front_end().PassTime(std::chrono::milliseconds(1));
     EXPECT_TRUE(franchise().Label18.Visible());
-    desktop().PassTime(std::chrono::milliseconds(1000));
+    front_end().PassTime(std::chrono::milliseconds(1000));
     EXPECT_FALSE(franchise().Label18.Visible());
-    desktop().PassTime(std::chrono::milliseconds(1000));
+    front_end().PassTime(std::chrono::milliseconds(1000));
     EXPECT_TRUE(franchise().Label18.Visible());
   });
   Begin();
@@ -348,7 +348,7 @@ TEST_F(WeekLoopTest, AfterAWatchedWeekTenTheOpponentHasNoName) {
   franchise().NextWeek.SetCaption("Week 10");
   franchise().OppTeam.SetCaption("F5 Wolves");
   dice().ThenAlways(110);
-  desktop().AtWait([this] { program().game.HighButton2.Click(); });
+  front_end().AtWait([this] { program().game.HighButton2.Click(); });
   Begin();
   EXPECT_EQ(franchise().NextWeek.Caption(), "Off Season");
   EXPECT_EQ(franchise().OppTeam.Caption(), "");
@@ -398,7 +398,7 @@ TEST_F(WeekLoopTest, TheLineUpIsCheckedInTheOffSeasonToo) {
   franchise().NextWeek.SetCaption("Off Season");
   franchise().MainList.RemoveItem(0);
   Begin();
-  EXPECT_EQ(desktop().Boxes()[0].text, "You are missing a position!");
+  EXPECT_EQ(front_end().Boxes()[0].text, "You are missing a position!");
   EXPECT_EQ(franchise().NextWeek.Caption(), "Off Season");
   EXPECT_FALSE(program().f_results.Visible());
 }
@@ -427,7 +427,7 @@ TEST_F(WeekLoopTest, ThePressAtOffSeasonEndsAtWeekOneOnTheHiddenScreen) {
   // The lists stand as before promotion.
   EXPECT_EQ(franchise().RankE.List(0), "E0 Wolves");
   EXPECT_EQ(franchise().OppTeam.Caption(), "E1 Wolves");
-  EXPECT_EQ(desktop().Waits(), 0);
+  EXPECT_EQ(front_end().Waits(), 0);
 }
 
 TEST_F(WeekLoopTest, AnOpponentWhoHasMovedKeepsThePressOpenPermanently) {
@@ -437,8 +437,8 @@ TEST_F(WeekLoopTest, AnOpponentWhoHasMovedKeepsThePressOpenPermanently) {
   for (const std::string& record : MakeRoster(80)) franchise().AddToRoster(record);
   franchise().NextWeek.SetCaption("Off Season");
   franchise().OppTeam.SetCaption("the last opponent");
-  for (int wait = 0; wait < 7; ++wait) desktop().AtWait([] {});
-  desktop().AtWait([this] {
+  for (int wait = 0; wait < 7; ++wait) front_end().AtWait([] {});
+  front_end().AtWait([this] {
     EXPECT_TRUE(program().f_results.Visible());
     EXPECT_EQ(franchise().NextWeek.Caption(), "Week 1");
     EXPECT_EQ(EnabledButtons(), 6);
@@ -447,13 +447,13 @@ TEST_F(WeekLoopTest, AnOpponentWhoHasMovedKeepsThePressOpenPermanently) {
     EXPECT_EQ(franchise().OppTeam.Caption(), "the last opponent");
     EXPECT_EQ(ItemsOf(franchise().tempList), Lines{});
   });
-  desktop().AtWait([this] {
+  front_end().AtWait([this] {
     EXPECT_EQ(ItemsOf(franchise().tempList), Lines{",,,,,,,,"});
     // The game goes on in the waits of that load: here to its end.
     startup().HighButton3.Click();
   });
   EXPECT_THROW(Begin(), ProgramEnded);
-  EXPECT_EQ(desktop().Waits(), 9);
+  EXPECT_EQ(front_end().Waits(), 9);
 }
 
 }  // namespace

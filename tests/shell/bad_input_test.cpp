@@ -26,7 +26,7 @@ class BadSaveTest : public GameFixture {
     franchise().SimRunning = true;
     franchise().PressBegin();
     franchise().SaveGame();
-    EXPECT_EQ(desktop().Boxes().back().text, "File saved!");
+    EXPECT_EQ(front_end().Boxes().back().text, "File saved!");
   }
   static std::string Garbage() {
     std::string bytes;
@@ -121,7 +121,7 @@ TEST_F(BadSaveTest, ATeamFileCutInTheMiddleGivesFewerPlayers) {
   startup().PressLoad();
   EXPECT_EQ(franchise().MainList.ListCount() + franchise().TrainList.ListCount(), 5);
   franchise().PressBegin();
-  EXPECT_EQ(desktop().Boxes().back().text, "You are missing a position!");
+  EXPECT_EQ(front_end().Boxes().back().text, "You are missing a position!");
 }
 
 TEST_F(BadSaveTest, ARosterWithTextForNumbersIsShownAsItStands) {

@@ -52,8 +52,8 @@ class LoadTest : public GameFixture {
     EXPECT_EQ(franchise().MainList.ListCount(), 0);
     EXPECT_EQ(franchise().RankF.ListCount(), 0);
     EXPECT_EQ(franchise().Alerts.ListCount(), 0);
-    EXPECT_TRUE(desktop().Boxes().empty());
-    EXPECT_EQ(desktop().Waits(), 0);
+    EXPECT_TRUE(front_end().Boxes().empty());
+    EXPECT_EQ(front_end().Waits(), 0);
   }
 };
 
@@ -86,7 +86,7 @@ TEST_F(LoadTest, FillsTheScreenAndShowsIt) {
   EXPECT_FALSE(startup().HighButton5.Visible());
   EXPECT_FALSE(startup().Visible());
   EXPECT_TRUE(franchise().Visible());
-  EXPECT_TRUE(desktop().Boxes().empty());
+  EXPECT_TRUE(front_end().Boxes().empty());
 }
 
 TEST_F(LoadTest, WritesNothing) {
@@ -99,7 +99,7 @@ TEST_F(LoadTest, TheStartScreenStaysUntilTheEnd) {
   int looks = 0;
   // Roster (99 items and 11 records), folders (36), standings (12), alerts (2), roster again.
   for (int i = 0; i < 99 + 11 + 36 + 12 + 2 + 99 + 11; ++i) {
-    desktop().AtYield([&, i] {
+    front_end().AtYield([&, i] {
       EXPECT_TRUE(startup().Visible());
       EXPECT_FALSE(franchise().Visible());
       EXPECT_EQ(startup().HighButton4.Visible(), i < 99 + 11 + 36 + 12 + 2);
@@ -109,7 +109,7 @@ TEST_F(LoadTest, TheStartScreenStaysUntilTheEnd) {
   }
   Load();
   EXPECT_EQ(looks, 270);
-  EXPECT_EQ(desktop().Yields(), 270 + 99 + 11);  // and the opponent, read and rated
+  EXPECT_EQ(front_end().Yields(), 270 + 99 + 11);  // and the opponent, read and rated
 }
 
 TEST_F(LoadTest, RestoresTheOffSeason) {
@@ -211,7 +211,7 @@ TEST_F(LoadTest, AListWithoutAFileIsTakenAsEmpty) {
   EXPECT_EQ(franchise().StatRankD.ListCount(), 0);
   EXPECT_EQ(franchise().Alerts.ListCount(), 0);
   EXPECT_EQ(franchise().MainList.ListCount(), 6);
-  EXPECT_EQ(desktop().Waits(), 0);
+  EXPECT_EQ(front_end().Waits(), 0);
 }
 
 TEST_F(LoadTest, AFileThatCannotBeReadStopsItWithoutATrace) {

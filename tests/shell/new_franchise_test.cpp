@@ -10,7 +10,7 @@
 #include "records/lines/standings_line.h"
 #include "tests/support/full_disk.h"
 #include "tests/support/game_fixture.h"
-#include "tests/support/watchful_desktop.h"
+#include "tests/support/watchful_front_end.h"
 
 namespace frostmark::test {
 namespace {
@@ -37,8 +37,8 @@ using PanelTest = NewFranchiseTest;
 
 TEST_F(PanelTest, NewOnAFirstRunAsksNothingBuildsAndOpensThePanel) {
   New();
-  ASSERT_EQ(desktop().Boxes().size(), 1U);
-  EXPECT_EQ(desktop().Boxes()[0].text, "Please wait as this may take some time...");
+  ASSERT_EQ(front_end().Boxes().size(), 1U);
+  EXPECT_EQ(front_end().Boxes()[0].text, "Please wait as this may take some time...");
   EXPECT_EQ(world.FileNames("Rank F").size(), 5U);
   EXPECT_EQ(world.FileNames("Rank A").size(), 6U);
   EXPECT_TRUE(startup().Frame1.OnView());
@@ -46,20 +46,20 @@ TEST_F(PanelTest, NewOnAFirstRunAsksNothingBuildsAndOpensThePanel) {
 
 TEST_F(PanelTest, NewOverARunningGameAsks) {
   FillRankF(6);
-  desktop().QueueAnswer("no");
+  front_end().QueueAnswer("no");
   New();
-  ASSERT_EQ(desktop().Boxes().size(), 1U);
-  EXPECT_EQ(desktop().Boxes()[0].text,
+  ASSERT_EQ(front_end().Boxes().size(), 1U);
+  EXPECT_EQ(front_end().Boxes()[0].text,
             "There is already a loaded game in progress. Would you like to create a new game?\n"
             "Warning: Doing this will delete your last game.");
-  EXPECT_EQ(desktop().Boxes()[0].icon, BoxIcon::kStop);
-  EXPECT_EQ(desktop().Boxes()[0].buttons, BoxButtons::kYesNo);
+  EXPECT_EQ(front_end().Boxes()[0].icon, BoxIcon::kStop);
+  EXPECT_EQ(front_end().Boxes()[0].buttons, BoxButtons::kYesNo);
 }
 
 TEST_F(PanelTest, NoLeavesEverythingAsItWas) {
   FillRankF(6);
   const Lines before = world.Everything();
-  desktop().QueueAnswer("no");
+  front_end().QueueAnswer("no");
   New();
   EXPECT_EQ(world.Everything(), before);
   EXPECT_FALSE(startup().Frame1.Visible());
@@ -68,9 +68,9 @@ TEST_F(PanelTest, NoLeavesEverythingAsItWas) {
 
 TEST_F(PanelTest, YesBuildsOnceAndOpensThePanel) {
   world.FillWorld();
-  desktop().QueueAnswer("yes");
+  front_end().QueueAnswer("yes");
   New();
-  EXPECT_EQ(desktop().Boxes().size(), 2U);
+  EXPECT_EQ(front_end().Boxes().size(), 2U);
   const Lines teams = world.FileNames("Rank F");
   EXPECT_EQ(teams.size(), 5U);
   EXPECT_EQ(std::count(teams.begin(), teams.end(), "F0 Wolves"), 0);
@@ -80,10 +80,10 @@ TEST_F(PanelTest, YesBuildsOnceAndOpensThePanel) {
 TEST_F(PanelTest, AfterTheBuildTheListingIsThatOfTheLastLeagueWhichMayBeEmpty) {
   // With a world only in "Rank F" the build lists an empty "Rank A" last, so it comes twice.
   FillRankF(6);
-  desktop().QueueAnswer("yes");
+  front_end().QueueAnswer("yes");
   New();
   EXPECT_EQ(startup().File1.Path(), world.path() + "/Teams/Rank A");
-  EXPECT_EQ(desktop().Boxes().size(), 3U);
+  EXPECT_EQ(front_end().Boxes().size(), 3U);
 }
 
 TEST_F(PanelTest, ANumberOfTeamsThatIsNeitherNoneNorSixOpensThePanelAtOnce) {
@@ -98,7 +98,7 @@ TEST_F(PanelTest, ANumberOfTeamsThatIsNeitherNoneNorSixOpensThePanelAtOnce) {
     EXPECT_TRUE(startup().Frame1.Visible());
     EXPECT_EQ(world.Everything(), before);
   }
-  EXPECT_TRUE(desktop().Boxes().empty());
+  EXPECT_TRUE(front_end().Boxes().empty());
 }
 
 TEST_F(PanelTest, SettingsAreNotConsulted) {
@@ -106,7 +106,7 @@ TEST_F(PanelTest, SettingsAreNotConsulted) {
   FillRankF(5);
   New();
   EXPECT_EQ(ordvik().counts().file_reads, 0);
-  EXPECT_TRUE(desktop().Boxes().empty());
+  EXPECT_TRUE(front_end().Boxes().empty());
 }
 
 TEST_F(PanelTest, GenerateShowsEachLineInReverseWithItsRatings) {
@@ -159,9 +159,9 @@ TEST_F(PanelTest, TheCrossClosesThePanelAndTheTeamStays) {
 }
 
 TEST_F(PanelTest, TheHotSpotRollsUntilTheWantedOverallComesUp) {
-  desktop().QueueAnswer("86");
+  front_end().QueueAnswer("86");
   startup().Label12.Click();
-  EXPECT_EQ(desktop().Prompts(), (Lines{"Desired overall?"}));
+  EXPECT_EQ(front_end().Prompts(), (Lines{"Desired overall?"}));
   EXPECT_EQ(startup().Label8.Caption(), "86");
   EXPECT_EQ(startup().List1.ListCount(), 6);
 }
@@ -169,21 +169,21 @@ TEST_F(PanelTest, TheHotSpotRollsUntilTheWantedOverallComesUp) {
 TEST_F(PanelTest, TheWantedOverallIsComparedAsText) {
   struct Enough {};
   for (const char* wanted : {" 86", "86.0", "086", "cancel", "best", "200"}) {
-    desktop().QueueAnswer(wanted);
+    front_end().QueueAnswer(wanted);
     // Without end: the user is still there after many teams.
     constexpr int kYieldsOfATeam = 11 + 11 + 1;
-    for (int i = 0; i < 60 * kYieldsOfATeam; ++i) desktop().AtYield([] {});
-    desktop().AtYield([] { throw Enough(); });
+    for (int i = 0; i < 60 * kYieldsOfATeam; ++i) front_end().AtYield([] {});
+    front_end().AtYield([] { throw Enough(); });
     EXPECT_THROW(startup().Label12.Click(), Enough) << wanted;
   }
 }
 
 TEST_F(PanelTest, TheHotSpotYieldsAfterEachTeam) {
   dice().ThenAlways(30);  // every skill 70
-  desktop().QueueAnswer("70");
-  const auto before = desktop().Yields();
+  front_end().QueueAnswer("70");
+  const auto before = front_end().Yields();
   startup().Label12.Click();
-  EXPECT_EQ(desktop().Yields() - before, 11 + 11 + 1);
+  EXPECT_EQ(front_end().Yields() - before, 11 + 11 + 1);
 }
 
 class BeginTest : public NewFranchiseTest {
@@ -230,7 +230,7 @@ TEST_F(BeginTest, WritesTheTeamFillsTheScreenAndSaves) {
   EXPECT_FALSE(startup().Frame1.Visible());
   EXPECT_FALSE(startup().HighButton4.Visible());
   EXPECT_FALSE(startup().HighButton5.Visible());
-  EXPECT_EQ(desktop().Boxes().back().text, "File saved!");
+  EXPECT_EQ(front_end().Boxes().back().text, "File saved!");
   EXPECT_EQ(ordvik().ReadSetting("Team"), "Montreal Breeze");
   EXPECT_EQ(ordvik().ReadSetting("Week"), "Week 1");
 }
@@ -264,9 +264,9 @@ TEST_F(BeginTest, ATeamOfThatNameIsOverwrittenAndTheLeagueHasFive) {
 }
 
 TEST_F(BeginTest, TheFranchiseIsOnViewWhileTheRosterFills) {
-  for (int i = 0; i < 11; ++i) desktop().AtYield([] {});  // the team file
+  for (int i = 0; i < 11; ++i) front_end().AtYield([] {});  // the team file
   for (int i = 1; i <= 11; ++i) {
-    desktop().AtYield([this, i] {
+    front_end().AtYield([this, i] {
       EXPECT_TRUE(franchise().Visible());
       EXPECT_FALSE(startup().Visible());
       EXPECT_EQ(franchise().MainList.ListCount() + franchise().TrainList.ListCount(), i);
@@ -302,9 +302,9 @@ TEST_F(BeginWithoutBuildTest, WithTheNameOfAnotherTeamItEndsAndSaves) {
     startup().Text1.Type("F" + std::to_string(taken));
     startup().Text2.Type("Wolves");
     Begin();
-    EXPECT_EQ(desktop().Boxes().back().text, "File saved!");
+    EXPECT_EQ(front_end().Boxes().back().text, "File saved!");
     EXPECT_EQ(ordvik().ReadSetting("Team"), WolvesOf("Rank F", taken));
-    EXPECT_EQ(desktop().Waits(), 0);
+    EXPECT_EQ(front_end().Waits(), 0);
   }
 }
 
@@ -324,7 +324,7 @@ TEST_F(BeginWithoutBuildTest, BeforeAnyGenerateTheTeamIsEmptyAndItGoesOnAllTheSa
   EXPECT_EQ(ReadText(world.TeamPath("Rank F", "Montreal Breeze")), "");
   EXPECT_TRUE(franchise().Visible());
   EXPECT_EQ(franchise().MainList.ListCount(), 0);
-  EXPECT_EQ(desktop().Boxes().back().text, "File saved!");
+  EXPECT_EQ(front_end().Boxes().back().text, "File saved!");
 }
 
 TEST_F(BeginWithoutBuildTest, RightAfterABuildTheTeamIsTheOneThatTheBuildRolledLast) {
@@ -408,7 +408,7 @@ TEST_F(BeginTest, FirstTheFileThenTheScreensAndTheSaveAtTheEnd) {
   });
   franchise().SetObserver(&watch);
   for (int line = 0; line < 11; ++line) {
-    desktop().AtYield([this] {
+    front_end().AtYield([this] {
       EXPECT_TRUE(startup().Visible());
       EXPECT_FALSE(franchise().Visible());
     });
@@ -416,12 +416,12 @@ TEST_F(BeginTest, FirstTheFileThenTheScreensAndTheSaveAtTheEnd) {
   Begin();
   franchise().SetObserver(nullptr);
   EXPECT_EQ(shown, 1);
-  EXPECT_EQ(desktop().Boxes().back().text, "File saved!");
+  EXPECT_EQ(front_end().Boxes().back().text, "File saved!");
   EXPECT_EQ(ordvik().ReadSetting("Team"), "Montreal Breeze");
 }
 
 TEST_F(BeginTest, ThePanelAndTheTwoButtonsGoBeforeTheSave) {
-  WatchfulDesktop watchful;
+  WatchfulFrontEnd watchful;
   Program other(watchful, dice(), world.path());
   other.team_creator.GenTeam();
   other.startup.HighButton2.Click();
@@ -451,9 +451,9 @@ TEST_F(BeginTest, TheNextOpponentIsFoundOnceMoreBeforeTheSave) {
       franchise().OppTeam.SetCaption("not yet");
       EXPECT_TRUE(startup().Frame1.Visible());
     }
-    if (!again) desktop().AtYield(look);
+    if (!again) front_end().AtYield(look);
   };
-  desktop().AtYield(look);
+  front_end().AtYield(look);
   Begin();
   ASSERT_TRUE(in_schedule);
   ASSERT_TRUE(again);
@@ -464,9 +464,9 @@ TEST_F(BeginTest, ATakenNameEndsInASaveWhateverPlaceTheTeamHas) {
   for (std::size_t place = 0; place < 5; ++place) {
     Restart();
     NewFranchiseTest::SetUp();
-    desktop().QueueAnswer("yes");  // from the second time on a game is there
+    front_end().QueueAnswer("yes");  // from the second time on a game is there
     New();
-    desktop().ForgetAnswers();
+    front_end().ForgetAnswers();
     Generate();
     const std::string other = world.FileNames("Rank F")[place];
     const std::size_t blank = other.find(' ');
@@ -474,8 +474,8 @@ TEST_F(BeginTest, ATakenNameEndsInASaveWhateverPlaceTheTeamHas) {
     startup().Text2.SetText(other.substr(blank + 1));
     Begin();
     EXPECT_EQ(franchise().RankF.ListCount(), 5);
-    EXPECT_EQ(desktop().Waits(), 0);
-    EXPECT_EQ(desktop().Boxes().back().text, "File saved!");
+    EXPECT_EQ(front_end().Waits(), 0);
+    EXPECT_EQ(front_end().Boxes().back().text, "File saved!");
     EXPECT_EQ(ordvik().ReadSetting("Team"), other);
     EXPECT_EQ(franchise().OppTeam.Caption(), Opponent());
   }
@@ -503,15 +503,15 @@ TEST_F(CutOffNewTest, ABuildThatWasCutOffIsMadeAgainWithoutAQuestion) {
       }
     }
     world.FillWorld();
-    desktop().QueueAnswer("yes");
-    for (int i = 0; i < yields; ++i) desktop().AtYield([] {});
-    desktop().AtYield([] { throw CutOff(); });
+    front_end().QueueAnswer("yes");
+    for (int i = 0; i < yields; ++i) front_end().AtYield([] {});
+    front_end().AtYield([] { throw CutOff(); });
     EXPECT_THROW(New(), CutOff);
     EXPECT_TRUE(IsMarked());
     NewInANewRun();
     // Twice when the folders were empty by then, as after a Yes.
-    ASSERT_FALSE(desktop().Boxes().empty());
-    for (const MessageBox& box : desktop().Boxes()) {
+    ASSERT_FALSE(front_end().Boxes().empty());
+    for (const MessageBox& box : front_end().Boxes()) {
       EXPECT_EQ(box.text, "Please wait as this may take some time...");
     }
     EXPECT_EQ(TeamsIn("Rank F"), 5U);
@@ -526,8 +526,8 @@ TEST_F(CutOffNewTest, ABuildThatWasCutOffIsMadeAgainWithoutAQuestion) {
 TEST_F(CutOffNewTest, TheGameBeforeIsNoneAnyMore) {
   New();
   Begin();
-  desktop().QueueAnswer("yes");
-  desktop().AtYield([] { throw CutOff(); });
+  front_end().QueueAnswer("yes");
+  front_end().AtYield([] { throw CutOff(); });
   EXPECT_THROW(New(), CutOff);
   Restart();
   startup().PressLoad();
@@ -538,30 +538,30 @@ TEST_F(CutOffNewTest, TheGameBeforeIsNoneAnyMore) {
 TEST_F(CutOffNewTest, AfterABuildThePanelOpensAtOnce) {
   New();
   NewInANewRun();
-  EXPECT_TRUE(desktop().Boxes().empty());
+  EXPECT_TRUE(front_end().Boxes().empty());
   EXPECT_TRUE(startup().Frame1.Visible());
 }
 
 TEST_F(CutOffNewTest, ABeginningThatWasCutOffBeforeItsSaveIsBuiltOver) {
   New();
   Generate();
-  for (int i = 0; i < 40; ++i) desktop().AtYield([] {});  // the team is in "Rank F" by now
-  desktop().AtYield([] { throw CutOff(); });
+  for (int i = 0; i < 40; ++i) front_end().AtYield([] {});  // the team is in "Rank F" by now
+  front_end().AtYield([] { throw CutOff(); });
   EXPECT_THROW(Begin(), CutOff);
   EXPECT_EQ(TeamsIn("Rank F"), 6U);
   NewInANewRun();
-  EXPECT_EQ(desktop().Boxes().size(), 1U);  // no question
+  EXPECT_EQ(front_end().Boxes().size(), 1U);  // no question
   EXPECT_EQ(TeamsIn("Rank F"), 5U);
 }
 
 // A press of "New" in one of its yields, and a kill in the yields after that.
 TEST_F(CutOffNewTest, ABuildWithinABuildLeavesTheMarkToTheOuterOne) {
   bool nested = false;
-  desktop().AtYield([this, &nested] {
+  front_end().AtYield([this, &nested] {
     startup().BuildLeague();
     nested = true;
     EXPECT_TRUE(IsMarked());
-    desktop().AtYield([] { throw CutOff(); });
+    front_end().AtYield([] { throw CutOff(); });
   });
   EXPECT_THROW(New(), CutOff);
   EXPECT_TRUE(nested);
@@ -572,14 +572,14 @@ TEST_F(CutOffNewTest, ABuildWithinABuildLeavesTheMarkToTheOuterOne) {
 }
 
 TEST_F(CutOffNewTest, ABuildWithinABuildLeavesNoMarkWhenBothAreOver) {
-  desktop().AtYield([this] { startup().BuildLeague(); });
+  front_end().AtYield([this] { startup().BuildLeague(); });
   New();
   EXPECT_FALSE(IsMarked());
 }
 
 // One that could not be made whole leaves it, however the others around it have ended.
 TEST_F(CutOffNewTest, ABuildWithinABuildThatIsNotWholeKeepsTheMark) {
-  desktop().AtYield([this] {
+  front_end().AtYield([this] {
     const FullDisk full(0);
     startup().BuildLeague();
   });
@@ -595,11 +595,11 @@ TEST_F(CutOffNewTest, NewWithinABuildAsksByTheCountOfTeams) {
       Ordvik::DeleteFile(world.TeamPath(rank, team));
     }
   }
-  desktop().QueueAnswer("yes");
-  desktop().AtYield([this] {
+  front_end().QueueAnswer("yes");
+  front_end().AtYield([this] {
     EXPECT_EQ(TeamsIn("Rank F"), 5U);
     New();
-    EXPECT_EQ(desktop().Boxes().size(), 2U);  // the question, and that it takes time
+    EXPECT_EQ(front_end().Boxes().size(), 2U);  // the question, and that it takes time
   });
   New();
 }
@@ -607,8 +607,8 @@ TEST_F(CutOffNewTest, NewWithinABuildAsksByTheCountOfTeams) {
 TEST_F(CutOffNewTest, ASaveWithinABeginningLeavesItTheMark) {
   New();
   Generate();
-  for (int i = 0; i < 15; ++i) desktop().AtYield([] {});  // the roster is being filled
-  desktop().AtYield([this] {
+  for (int i = 0; i < 15; ++i) front_end().AtYield([] {});  // the roster is being filled
+  front_end().AtYield([this] {
     ASSERT_TRUE(franchise().Visible());
     franchise().HighButton3.Click();
     EXPECT_TRUE(IsMarked());
@@ -620,7 +620,7 @@ TEST_F(CutOffNewTest, ASaveWithinABeginningLeavesItTheMark) {
 TEST_F(CutOffNewTest, ABuildWithinABeginningLeavesItTheMarkOfABeginning) {
   New();
   Generate();
-  desktop().AtYield([this] {
+  front_end().AtYield([this] {
     startup().BuildLeague();
     EXPECT_EQ(ReadText(world.SettingsPath("unfinished.new")), "begin\r\n");
   });
@@ -631,7 +631,7 @@ TEST_F(CutOffNewTest, ABuildWithinABeginningLeavesItTheMarkOfABeginning) {
 TEST_F(CutOffNewTest, ABeginningWithinABeginningLeavesTheMarkToTheOuterOne) {
   New();
   Generate();
-  desktop().AtYield([this] {
+  front_end().AtYield([this] {
     Begin();
     EXPECT_TRUE(IsMarked());
   });
@@ -645,10 +645,10 @@ TEST_F(CutOffNewTest, ABeginningThatWasCutOffIsNotTheGameBefore) {
   Begin();
   franchise().NextWeek.SetCaption("Week 7");
   franchise().SaveGame();
-  desktop().QueueAnswer("yes");
+  front_end().QueueAnswer("yes");
   New();
-  for (int i = 0; i < 40; ++i) desktop().AtYield([] {});
-  desktop().AtYield([] { throw CutOff(); });
+  for (int i = 0; i < 40; ++i) front_end().AtYield([] {});
+  front_end().AtYield([] { throw CutOff(); });
   EXPECT_THROW(Begin(), CutOff);
   ASSERT_TRUE(std::filesystem::exists(world.TeamPath("Rank F", "Montreal Breeze")));
   Restart();
@@ -661,8 +661,8 @@ TEST_F(CutOffNewTest, ABeginningThatWasCutOffIsNotTheGameBefore) {
 TEST_F(CutOffNewTest, ABeginningThatWasCutOffAfterItsSaveIsTakenUp) {
   New();
   std::string mark;
-  for (int i = 0; i < 40; ++i) desktop().AtYield([] {});
-  desktop().AtYield([&] { mark = ReadText(world.SettingsPath("unfinished.new")); });
+  for (int i = 0; i < 40; ++i) front_end().AtYield([] {});
+  front_end().AtYield([&] { mark = ReadText(world.SettingsPath("unfinished.new")); });
   Begin();
   ASSERT_FALSE(mark.empty());
   WriteText(world.SettingsPath("unfinished.new"), mark);
@@ -676,7 +676,7 @@ TEST_F(CutOffNewTest, ABeginningThatWasCutOffAfterItsSaveIsTakenUp) {
 TEST_F(CutOffNewTest, ABeginningIsWholeWhenItsBoxIsShown) {
   New();
   Generate();
-  WatchfulDesktop watchful;
+  WatchfulFrontEnd watchful;
   Program other(watchful, dice(), world.path());
   watchful.OnBox = [this] { EXPECT_FALSE(IsMarked()); };
   other.team_creator.GenTeam();

@@ -76,7 +76,7 @@ TEST_F(RosterTest, MovesDoNotShiftTheOrderOfTheOthersAndNothingIsChecked) {
   EXPECT_EQ(franchise().TrainList.ListCount(), 11);
   while (franchise().TrainList.ListCount() > 0) ToLeadLine(0);
   EXPECT_EQ(franchise().MainList.ListCount(), 11);
-  EXPECT_TRUE(desktop().Boxes().empty());
+  EXPECT_TRUE(front_end().Boxes().empty());
 }
 
 TEST_F(RosterTest, RatingsAreNotRecomputedOnAMove) {
@@ -126,7 +126,7 @@ TEST_F(RosterTest, ASaveThatFailsIsSilent) {
   std::filesystem::remove_all(world.path() + "/Teams");
   ToTraining(0);
   EXPECT_EQ(franchise().TrainList.ListCount(), 6);
-  EXPECT_TRUE(desktop().Boxes().empty());
+  EXPECT_TRUE(front_end().Boxes().empty());
 }
 
 TEST_F(RosterTest, ADoubleClickShowsALeadPlayer) {

@@ -47,16 +47,16 @@ TEST_F(SaveTest, WritesSettingsRosterStandingsAndAlerts) {
 
 TEST_F(SaveTest, EndsWithItsMessage) {
   franchise().SaveGame();
-  ASSERT_EQ(desktop().Boxes().size(), 1U);
-  EXPECT_EQ(desktop().Boxes()[0].text, "File saved!");
-  EXPECT_EQ(desktop().Boxes()[0].icon, BoxIcon::kInformation);
-  EXPECT_EQ(desktop().Boxes()[0].buttons, BoxButtons::kOk);
+  ASSERT_EQ(front_end().Boxes().size(), 1U);
+  EXPECT_EQ(front_end().Boxes()[0].text, "File saved!");
+  EXPECT_EQ(front_end().Boxes()[0].icon, BoxIcon::kInformation);
+  EXPECT_EQ(front_end().Boxes()[0].buttons, BoxButtons::kOk);
 }
 
 TEST_F(SaveTest, SaysSoAlsoWhenNothingCouldBeWritten) {
   std::filesystem::remove_all(world.path());
   franchise().SaveGame();
-  EXPECT_EQ(desktop().Boxes().back().text, "File saved!");
+  EXPECT_EQ(front_end().Boxes().back().text, "File saved!");
   EXPECT_FALSE(std::filesystem::exists(world.path()));
 }
 
@@ -70,7 +70,7 @@ TEST_F(SaveTest, TakesTheSettingsFirstThenTheRosterThenTheStandingsThenTheAlerts
   franchise().MainList.SetList(0, "changed");
   // Eleven yields gather the roster and eleven write it, then two a league and two for the news.
   for (int i = 0; i < 22; ++i) {
-    desktop().AtYield([=, this] {
+    front_end().AtYield([=, this] {
       EXPECT_TRUE(taken("settings.fmk"));
       EXPECT_EQ(ordvik().ReadSetting("Week"), "Week 3");
       EXPECT_EQ(ReadLines(world.TeamPath("Rank F", "F2 Wolves")), roster);
@@ -80,7 +80,7 @@ TEST_F(SaveTest, TakesTheSettingsFirstThenTheRosterThenTheStandingsThenTheAlerts
   const std::string leagues = "FEDCBA";
   for (std::size_t league = 0; league < leagues.size(); ++league) {
     for (int line = 0; line < 2; ++line) {
-      desktop().AtYield([=, this] {
+      front_end().AtYield([=, this] {
         EXPECT_EQ(ReadLines(world.TeamPath("Rank F", "F2 Wolves"))[0], "changed");
         for (std::size_t other = 0; other < leagues.size(); ++other) {
           EXPECT_EQ(taken(std::string("StatRank") + leagues[other] + ".fmk"), other < league);
@@ -89,15 +89,15 @@ TEST_F(SaveTest, TakesTheSettingsFirstThenTheRosterThenTheStandingsThenTheAlerts
     }
   }
   for (int line = 0; line < 2; ++line) {
-    desktop().AtYield([=, this] {
+    front_end().AtYield([=, this] {
       EXPECT_TRUE(taken("StatRankA.fmk"));
       EXPECT_FALSE(taken("Alerts.fmk"));
       EXPECT_TRUE(world.SettingsNames().empty());
     });
   }
-  const auto before = desktop().Yields();
+  const auto before = front_end().Yields();
   franchise().SaveGame();
-  EXPECT_EQ(desktop().Yields() - before, 22 + 12 + 2);
+  EXPECT_EQ(front_end().Yields() - before, 22 + 12 + 2);
   EXPECT_EQ(world.SettingsNames().size(), 8U);
 }
 
@@ -107,8 +107,8 @@ TEST_F(SaveTest, ASaveWithinASaveIsTheLaterOne) {
   for (int yield = 0; yield < 22 + 12 + 2; ++yield) {
     franchise().NextWeek.SetCaption("Week 3");
     FillList(franchise().Alerts, {"newest", "oldest"});
-    for (int i = 0; i < yield; ++i) desktop().AtYield([] {});
-    desktop().AtYield([this] {
+    for (int i = 0; i < yield; ++i) front_end().AtYield([] {});
+    front_end().AtYield([this] {
       franchise().NextWeek.SetCaption("Week 4");
       FillList(franchise().Alerts, {"inner one", "inner two"});
       franchise().SaveGame();
@@ -123,7 +123,7 @@ TEST_F(SaveTest, ASaveWithinASaveIsTheLaterOne) {
 }
 
 TEST_F(SaveTest, ASettingWrittenWithinASaveStays) {
-  desktop().AtYield([this] { ordvik().WriteSetting("Week", "Week 9"); });
+  front_end().AtYield([this] { ordvik().WriteSetting("Week", "Week 9"); });
   franchise().SaveGame();
   EXPECT_EQ(ordvik().ReadSetting("Week"), "Week 9");
   EXPECT_EQ(ordvik().ReadSetting("Team"), "F2 Wolves");
@@ -191,7 +191,7 @@ TEST_F(SaveTest, CloseSavesNothingAsksNothingAndKeepsTheLists) {
   EXPECT_FALSE(franchise().Visible());
   EXPECT_TRUE(startup().Visible());
   EXPECT_EQ(world.Everything(), before);
-  EXPECT_TRUE(desktop().Boxes().empty());
+  EXPECT_TRUE(front_end().Boxes().empty());
   EXPECT_EQ(franchise().MainList.ListCount(), 6);
   EXPECT_EQ(franchise().Alerts.ListCount(), 2);
 }

@@ -25,8 +25,8 @@ TEST_F(StartScreenTest, TheProgramShowsItAndDoesNothingElse) {
   EXPECT_EQ(program().screens.VisibleOnes(), (std::vector<Screen*>{&startup()}));
   EXPECT_EQ(ordvik().counts().file_reads, 0);
   EXPECT_EQ(ordvik().counts().rolls, 0);
-  EXPECT_EQ(desktop().Yields(), 0);
-  EXPECT_TRUE(desktop().Boxes().empty());
+  EXPECT_EQ(front_end().Yields(), 0);
+  EXPECT_TRUE(front_end().Boxes().empty());
 }
 
 TEST_F(StartScreenTest, AGameOnDiskIsNotLookedAt) {
@@ -72,7 +72,7 @@ TEST_F(StartScreenTest, SingleGameOpensTheChoiceWithEmptyLists) {
 
 TEST_F(StartScreenTest, ExitEndsTheProgramAtOnceWithoutSavingOrAsking) {
   EXPECT_THROW(startup().HighButton3.Click(), ProgramEnded);
-  EXPECT_TRUE(desktop().Boxes().empty());
+  EXPECT_TRUE(front_end().Boxes().empty());
   EXPECT_TRUE(world.Everything().empty());
 }
 
@@ -85,7 +85,7 @@ TEST_F(StartScreenTest, ExitWithAFranchiseBelowItSavesNothing) {
   EXPECT_TRUE(startup().Visible());
   EXPECT_THROW(startup().HighButton3.Click(), ProgramEnded);
   EXPECT_EQ(world.Everything(), before);
-  EXPECT_TRUE(desktop().Boxes().empty());
+  EXPECT_TRUE(front_end().Boxes().empty());
 }
 
 // Which screens come and go, in order.
@@ -140,7 +140,7 @@ TEST_F(StartScreenTest, OneScreenComesAndTheOtherGoesInTheOrderOfEachWay) {
 
 TEST_F(StartScreenTest, TheAddressOpensTheWebPage) {
   startup().Label1.Click();
-  EXPECT_EQ(desktop().WebPages(), (Lines{startup().Label1.Caption()}));
+  EXPECT_EQ(front_end().WebPages(), (Lines{startup().Label1.Caption()}));
 }
 
 TEST_F(StartScreenTest, TheHotSpotOpensTheToolBesideTheStartScreen) {

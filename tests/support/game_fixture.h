@@ -7,17 +7,17 @@
 
 #include "program/program.h"
 #include "tests/support/scripted_dice.h"
+#include "tests/support/scripted_front_end.h"
 #include "tests/support/temporary_world.h"
 #include "tests/support/test_player.h"
-#include "ui/headless_desktop.h"
 
 namespace frostmark::test {
 
 // One run of the program on a desktop without windows.
 struct Session {
-  explicit Session(const std::string& app_path) : program(desktop, dice, app_path) {}
+  explicit Session(const std::string& app_path) : program(front_end, dice, app_path) {}
 
-  HeadlessDesktop desktop;
+  ScriptedFrontEnd front_end;
   ScriptedDice dice;
   Program program;
 };
@@ -43,7 +43,7 @@ class GameFixture : public ::testing::Test {
 
   TemporaryWorld world;
 
-  HeadlessDesktop& desktop() { return session_->desktop; }
+  ScriptedFrontEnd& front_end() { return session_->front_end; }
   ScriptedDice& dice() { return session_->dice; }
   Program& program() { return session_->program; }
   Startup& startup() { return program().startup; }

@@ -69,7 +69,7 @@ void Sitting::UntilGame(const std::string& what, const std::function<bool()>& tr
 
 XWindow Sitting::Window(const Screen& screen) {
   const auto id = Ask([&] {
-    const ScreenWindow* window = game_.desktop().Window(screen);
+    const ScreenWindow* window = game_.front_end().Window(screen);
     return window == nullptr ? 0 : static_cast<std::uint32_t>(window->internalWinId());
   });
   return x_.Window(id);
@@ -141,7 +141,7 @@ QRect Sitting::Place(const Screen& screen, const char* name) {
 
 void Sitting::Click(const Screen& screen, const char* name, int button) {
   UntilGame(screen.Name() + "." + name + " to click", [&] {
-    return game_.desktop().Window(screen) != nullptr && screen.Visible() &&
+    return game_.front_end().Window(screen) != nullptr && screen.Visible() &&
            Pressable(game_.On<QWidget>(screen, name));
   });
   UntilInFront(screen);
@@ -264,7 +264,7 @@ void Sit(const std::function<void(Sitting&)>& script) {
         qApp,
         [&] {
           over = true;
-          game.desktop().guard().Call([&] { game.desktop().EndProgram(); });
+          game.front_end().guard().Call([&] { game.front_end().EndProgram(); });
         },
         Qt::QueuedConnection);
   });

@@ -43,7 +43,7 @@ class TakenWorld : public testing::Test {
 
   QTemporaryDir folder_;
   QProcess console_;
-  QProcess desktop_;
+  QProcess front_end_;
   XDisplay x_;
 };
 
@@ -51,7 +51,7 @@ TEST_F(TakenWorld, TheDesktopSaysThatAConsoleHasItAndLeaves) {
   Start(console_, "FROSTMARK_TEST_CONSOLE", "frostmark-console");
   console_.write("screens\n");
   ASSERT_TRUE(console_.waitForReadyRead()) << "the console is ready";
-  Start(desktop_, "FROSTMARK_TEST_DESKTOP", "frostmark");
+  Start(front_end_, "FROSTMARK_TEST_DESKTOP", "frostmark");
   const XWindow box = TheWindow();
   EXPECT_EQ(box.title, "Frostmark");
 
@@ -69,9 +69,9 @@ TEST_F(TakenWorld, TheDesktopSaysThatAConsoleHasItAndLeaves) {
   EXPECT_TRUE(Shows(box, wanted));
 
   x_.Key("Return");
-  ASSERT_TRUE(desktop_.waitForFinished());
-  EXPECT_EQ(desktop_.exitStatus(), QProcess::NormalExit);
-  EXPECT_EQ(desktop_.exitCode(), 2);
+  ASSERT_TRUE(front_end_.waitForFinished());
+  EXPECT_EQ(front_end_.exitStatus(), QProcess::NormalExit);
+  EXPECT_EQ(front_end_.exitCode(), 2);
   // It has left nothing in the world.
   EXPECT_EQ(QDir(folder_.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).join(' '),
             "frostmark frostmark-console");

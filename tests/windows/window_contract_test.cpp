@@ -93,7 +93,7 @@ class CloseInBetween : public QObject {
 TEST(WindowContract, TheDeskDoesNotCloseBeforeTheNewSeasonIsSaved) {
   Sit([](Sitting& sitting) {
     Program& program = sitting.program();
-    QuickDesktop& desktop = sitting.game().desktop();
+    QuickFrontEnd& front_end = sitting.game().front_end();
     sitting.StartFranchise();
     sitting.Ask([&] {
       program.franchise.Hide();
@@ -102,17 +102,17 @@ TEST(WindowContract, TheDeskDoesNotCloseBeforeTheNewSeasonIsSaved) {
     });
     CloseInBetween closing(sitting);
     sitting.Ask([&] {
-      desktop.at_yield = [&] {
+      front_end.at_yield = [&] {
         if (!program.franchise.Visible() || program.f_draft.Visible()) return;
-        desktop.at_yield = nullptr;
+        front_end.at_yield = nullptr;
         closing.Do();
       };
     });
     sitting.StartSeason();
     EXPECT_TRUE(closing.Came());
-    EXPECT_EQ(sitting.Ask([&] { return desktop.ExitCode(); }), -1);
+    EXPECT_EQ(sitting.Ask([&] { return front_end.ExitCode(); }), -1);
     sitting.x().Close(sitting.Window(program.franchise).id);
-    sitting.UntilGame("the end", [&] { return desktop.ExitCode() == 0; });
+    sitting.UntilGame("the end", [&] { return front_end.ExitCode() == 0; });
   });
 }
 
@@ -127,7 +127,7 @@ TEST(WindowContract, CtrlQLeavesTheProgramInTheTurnOfTheYear) {
       });
       sitting.UntilInFront(screen);
       sitting.x().Key("ctrl+q");
-      sitting.UntilGame("the end", [&] { return sitting.game().desktop().ExitCode() == 0; });
+      sitting.UntilGame("the end", [&] { return sitting.game().front_end().ExitCode() == 0; });
     });
   }
 }
@@ -138,7 +138,7 @@ TEST(WindowContract, CtrlQLeavesTheProgramFromAnyWindow) {
     sitting.Click(sitting.program().startup, "Label2");
     sitting.UntilInFront(creator);
     sitting.x().Key("ctrl+q");
-    sitting.UntilGame("the end", [&] { return sitting.game().desktop().ExitCode() == 0; });
+    sitting.UntilGame("the end", [&] { return sitting.game().front_end().ExitCode() == 0; });
   });
 }
 
@@ -156,7 +156,7 @@ TEST(WindowContract, TheMarkInTheCornerLeavesALockedDesk) {
     // The week of the game that was left goes on waiting.
     EXPECT_FALSE(sitting.Ask([&] { return program.franchise.HighButton2.Enabled(); }));
     sitting.Click(program.franchise, "look_leave");
-    sitting.UntilGame("the end", [&] { return sitting.game().desktop().ExitCode() == 0; });
+    sitting.UntilGame("the end", [&] { return sitting.game().front_end().ExitCode() == 0; });
   });
 }
 
@@ -200,7 +200,7 @@ TEST(WindowContract, AYearIsPlayedOnOneStage) {
       sitting.x().Activate(choice.id);
     });
     sitting.StartSeason();
-    EXPECT_EQ(sitting.Ask([&] { return sitting.game().desktop().ExitCode(); }), -1);
+    EXPECT_EQ(sitting.Ask([&] { return sitting.game().front_end().ExitCode(); }), -1);
     ExpectSamePlace(stage, sitting.Window(program.franchise));
   });
 }

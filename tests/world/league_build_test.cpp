@@ -89,7 +89,7 @@ TEST_F(LeagueBuildTest, UsesEachCityAndEachNicknameOnce) {
 
 TEST_F(LeagueBuildTest, FillsTheTwoListsInTheirOrder) {
   // The first yield of a build in an empty world comes from the first player of the first team.
-  desktop().AtYield([&] {
+  front_end().AtYield([&] {
     Lines cities;
     Lines nicknames;
     for (const auto& [city, nickname] : kTable) {
@@ -105,10 +105,10 @@ TEST_F(LeagueBuildTest, FillsTheTwoListsInTheirOrder) {
 TEST_F(LeagueBuildTest, SaysThatItTakesTimeBeforeAnythingHappens) {
   world.FillWorld();
   Build();
-  ASSERT_EQ(desktop().Boxes().size(), 1U);
-  EXPECT_EQ(desktop().Boxes()[0].text, "Please wait as this may take some time...");
-  EXPECT_EQ(desktop().Boxes()[0].icon, BoxIcon::kInformation);
-  EXPECT_EQ(desktop().Boxes()[0].buttons, BoxButtons::kOk);
+  ASSERT_EQ(front_end().Boxes().size(), 1U);
+  EXPECT_EQ(front_end().Boxes()[0].text, "Please wait as this may take some time...");
+  EXPECT_EQ(front_end().Boxes()[0].icon, BoxIcon::kInformation);
+  EXPECT_EQ(front_end().Boxes()[0].buttons, BoxButtons::kOk);
 }
 
 TEST_F(LeagueBuildTest, LeavesNoFileOfTheWorldBefore) {
@@ -130,7 +130,7 @@ TEST_F(LeagueBuildTest, DeletesLeagueByLeagueYieldingAfterEachFile) {
   world.WriteTeam("Rank A", "c", {});
   int looks = 0;
   const auto expect_left = [&](const Lines& in_f, const Lines& in_a) {
-    desktop().AtYield([this, in_f, in_a, &looks] {
+    front_end().AtYield([this, in_f, in_a, &looks] {
       EXPECT_EQ(world.FileNames("Rank F"), in_f);
       EXPECT_EQ(world.FileNames("Rank A"), in_a);
       ++looks;
@@ -157,7 +157,7 @@ TEST_F(LeagueBuildTest, TouchesNeitherSettingsNorStandingsNorAlerts) {
 TEST_F(LeagueBuildTest, SetsSeasonAndChampionshipsBackAtItsEnd) {
   EXPECT_EQ(franchise().Season.Caption(), "00");
   franchise().Champion.SetCaption("3");
-  desktop().AtYield([&] {
+  front_end().AtYield([&] {
     EXPECT_EQ(franchise().Season.Caption(), "00");
     EXPECT_EQ(franchise().Champion.Caption(), "3");
   });
@@ -199,15 +199,15 @@ TEST_F(LeagueBuildTest, YieldsTwentyThreeTimesATryAndTwelveTimesATeam) {
   const auto tries = std::count(asked.begin(), asked.end(), 1218) / 11;
   ASSERT_GT(tries, 35);
   // Eleven players, eleven of them rated, one look at the strength; eleven lines, one team.
-  EXPECT_EQ(desktop().Yields(), tries * 23 + 35 * 12);
+  EXPECT_EQ(front_end().Yields(), tries * 23 + 35 * 12);
 }
 
 TEST_F(LeagueBuildTest, TheStrengthIsReadFromItsLabelAfterTheYieldOfTheTry) {
   // Two teams that suit "Rank F": the label of the first is written over at the try's last yield.
   for (int player = 0; player < 22; ++player) dice().Give({2, 2, 30, 30, 30, 30, 7});
   dice().Give({6, 35});
-  for (int yield = 1; yield < 23; ++yield) desktop().AtYield([] {});
-  desktop().AtYield([this] {
+  for (int yield = 1; yield < 23; ++yield) front_end().AtYield([] {});
+  front_end().AtYield([this] {
     EXPECT_EQ(program().team_creator.Label7.Caption(), "70");
     EXPECT_EQ(naming().TeamOverall, 70);
     program().team_creator.Label7.SetCaption("81");
@@ -221,7 +221,7 @@ TEST_F(LeagueBuildTest, TheStrengthIsReadFromItsLabelAfterTheYieldOfTheTry) {
 TEST_F(LeagueBuildTest, TheListsOfNamesAreAddedToWhatIsInThem) {
   startup().List3.AddItem("Oslo");
   startup().List4.AddItem("Vikings");
-  desktop().AtYield([this] {
+  front_end().AtYield([this] {
     EXPECT_EQ(startup().List3.ListCount(), 36);
     EXPECT_EQ(startup().List3.List(0), "Oslo");
     EXPECT_EQ(startup().List3.List(1), "Binghamton");

@@ -135,14 +135,14 @@ TEST_F(PlayersTest, ATeamHasElevenPlayersInRosterOrder) {
 }
 
 TEST_F(PlayersTest, EachPlayerOfATeamTakesSevenRollsAndAYield) {
-  const auto yields = desktop().Yields();
+  const auto yields = front_end().Yields();
   creator().GenTeam();
   std::vector<int> expected;
   for (int player = 0; player < 11; ++player) {
     expected.insert(expected.end(), {1218, 3652, 30, 30, 30, 30, 7});
   }
   EXPECT_EQ(dice().Asked(), expected);
-  EXPECT_EQ(desktop().Yields() - yields, 11 + 11);  // the players, then their rating
+  EXPECT_EQ(front_end().Yields() - yields, 11 + 11);  // the players, then their rating
 }
 
 TEST_F(PlayersTest, AGeneratedRecordHoldsWhatWasRolled) {
@@ -224,7 +224,7 @@ TEST_F(ToolSaveTest, WritesNothingFromAnywhereElse) {
   creator().Combo1.SetText("Rank B");
   creator().Command1.Click();
   EXPECT_TRUE(world.Everything().empty());
-  EXPECT_TRUE(desktop().Boxes().empty());
+  EXPECT_TRUE(front_end().Boxes().empty());
   EXPECT_EQ(creator().List1.ListCount(), 0);
 }
 

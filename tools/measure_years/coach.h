@@ -4,15 +4,15 @@
 #include <string>
 
 #include "program/program.h"
+#include "tests/support/scripted_front_end.h"
 #include "tests/support/seeded_dice.h"
-#include "ui/headless_desktop.h"
 
 namespace frostmark {
 
 // A user who never tires, on a desktop whose clock runs as fast as they do. Each season the best
 // player of a position leads and the other trains; in the draft they let the weakest player go and
 // take the best of the pool.
-class Coach : public HeadlessDesktop {
+class Coach : public test::ScriptedFrontEnd {
  public:
   Coach(std::uint64_t seed, const std::string& app_path)
       : dice_(seed), program_(*this, dice_, app_path) {}

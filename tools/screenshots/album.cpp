@@ -7,36 +7,36 @@
 
 namespace frostmark {
 
-void WillingDesktop::Wait() {
+void WillingFrontEnd::Wait() {
   if (while_waiting) {
     while_waiting();
     QApplication::processEvents();
   } else {
-    QtDesktop::Wait();
+    QtFrontEnd::Wait();
   }
 }
 
-void WillingDesktop::WaitFor(std::chrono::microseconds at_most) {
+void WillingFrontEnd::WaitFor(std::chrono::microseconds at_most) {
   now_ += at_most;
   if (while_waiting) while_waiting();
   QApplication::processEvents();
 }
 
-Answer WillingDesktop::ShowBox(const MessageBox& box) {
+Answer WillingFrontEnd::ShowBox(const MessageBox& box) {
   return box.buttons == BoxButtons::kYesNo ? Answer::kYes : Answer::kOk;
 }
 
-std::string WillingDesktop::AskText(const std::string& /*prompt*/) { return {}; }
+std::string WillingFrontEnd::AskText(const std::string& /*prompt*/) { return {}; }
 
 Album::Album(QString out) : out_(std::move(out)) {
   QDir().mkpath(out_);
-  program_ = std::make_unique<Program>(desktop_, dice_, world_.path());
+  program_ = std::make_unique<Program>(front_end_, dice_, world_.path());
 }
 
 void Album::Take(const Screen& screen, const QString& name) {
   // Layouts and lists settle over a few rounds.
   for (int i = 0; i < 5; ++i) QApplication::processEvents();
-  const ScreenWindow* window = desktop_.Window(screen);
+  const ScreenWindow* window = front_end_.Window(screen);
   if (window == nullptr) qFatal("%s has never been shown", screen.Name().c_str());
   const QString path = out_ + "/" + name + ".png";
   if (!const_cast<ScreenWindow*>(window)->grab().save(path)) {

@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-#include "desktop/qt_desktop.h"
+#include "desktop/qt_front_end.h"
 #include "program/program.h"
 #include "tests/support/seeded_dice.h"
 #include "tests/support/temporary_world.h"
@@ -15,7 +15,7 @@ namespace frostmark {
 
 // A desktop on which every question is answered with Yes before anybody sees it, and on which the
 // time that the game waits for has passed at once.
-class WillingDesktop : public QtDesktop {
+class WillingFrontEnd : public QtFrontEnd {
  public:
   // What somebody does while the game waits, for the clock or for them.
   std::function<void()> while_waiting;
@@ -37,7 +37,7 @@ class Album {
   explicit Album(QString out);
 
   Program& program() { return *program_; }
-  WillingDesktop& desktop() { return desktop_; }
+  WillingFrontEnd& front_end() { return front_end_; }
 
   // Saves the window of SCREEN as OUT/NAME.png.
   void Take(const Screen& screen, const QString& name);
@@ -48,7 +48,7 @@ class Album {
  private:
   QString out_;
   test::TemporaryWorld world_;
-  WillingDesktop desktop_;
+  WillingFrontEnd front_end_;
   test::SeededDice dice_{20};  // a seed, so that pictures change only when the looks do
   std::unique_ptr<Program> program_;
 };

@@ -12,7 +12,7 @@ namespace {
 // and so among the last of the news.
 void ShowOwnGame(Album& album) {
   const Franchise& franchise = album.program().franchise;
-  auto& alerts = Part<QListView>(album.desktop().Window(franchise)->form(), "Alerts");
+  auto& alerts = Part<QListView>(album.front_end().Window(franchise)->form(), "Alerts");
   int own = 0;
   while (franchise.Alerts.List(own).find(franchise.TeamName.Caption()) == std::string::npos) ++own;
   alerts.scrollTo(alerts.model()->index(own + 3, 0));
@@ -47,7 +47,7 @@ void TakeResults(Album& album) {
   FResults& results = album.program().f_results;
   // The last press of a season may stay open, waiting for the file of an opponent who has moved to
   // another league. It is left there.
-  album.desktop().while_waiting = [&results] {
+  album.front_end().while_waiting = [&results] {
     if (results.Visible()) throw ProgramEnded{};
   };
   while (!results.Visible()) {
@@ -56,7 +56,7 @@ void TakeResults(Album& album) {
     } catch (const ProgramEnded&) {
     }
   }
-  album.desktop().while_waiting = nullptr;
+  album.front_end().while_waiting = nullptr;
   album.Take(results, "results");
   results.XTab1.SetFront(1);
   album.Take(results, "results-standings");
@@ -84,7 +84,7 @@ void TakeTurn(Album& album) {
 void TakeDraft(Album& album) {
   FDraft& draft = album.program().f_draft;
   bool others_taken = false;
-  album.desktop().while_waiting = [&] {
+  album.front_end().while_waiting = [&] {
     constexpr int kSomeHistory = 20;
     if (!others_taken && draft.Events.ListCount() > kSomeHistory) {
       others_taken = true;
@@ -93,7 +93,7 @@ void TakeDraft(Album& album) {
     TakeTurn(album);
   };
   album.program().f_results.Command1.Click();
-  album.desktop().while_waiting = nullptr;
+  album.front_end().while_waiting = nullptr;
 }
 
 }  // namespace

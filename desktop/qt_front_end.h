@@ -8,7 +8,7 @@
 
 #include "desktop/guard.h"
 #include "desktop/stage.h"
-#include "ui/desktop.h"
+#include "ui/front_end.h"
 
 class QWidget;
 
@@ -19,12 +19,12 @@ class Ticker;
 
 // The desktop on Qt. A screen's window is made when the screen is first shown and then kept; timers
 // run from the start. It needs a QApplication and is deleted after the program it serves.
-class QtDesktop : public Desktop, public Screen::Observer {
+class QtFrontEnd : public FrontEnd, public Screen::Observer {
  public:
   // LEAVE ends the process with an exit code. A test may hand in one that returns: the procedures
   // on the stack are then unwound, and nothing enters the game any more.
-  explicit QtDesktop(std::function<void(int code)> leave = LeaveProcess);
-  ~QtDesktop() override;
+  explicit QtFrontEnd(std::function<void(int code)> leave = LeaveProcess);
+  ~QtFrontEnd() override;
 
   void Yield() override;
   void Wait() override;

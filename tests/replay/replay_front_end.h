@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "tests/reference/reference_game.h"
-#include "ui/headless_desktop.h"
+#include "tests/support/scripted_front_end.h"
 
 namespace frostmark {
 class ListBox;
@@ -18,9 +18,9 @@ namespace frostmark::test {
 // The user of a replay: watches games to the end, takes the turn in the draft by whim, and for
 // the rest does what the test has queued. A press can stay open permanently (a team that has moved
 // leagues is looked for where it was), so that what they do next must be done inside its wait.
-class ReplayDesktop : public HeadlessDesktop {
+class ReplayFrontEnd : public ScriptedFrontEnd {
  public:
-  explicit ReplayDesktop(std::uint64_t seed) : whim_(seed) {}
+  explicit ReplayFrontEnd(std::uint64_t seed) : whim_(seed) {}
 
   void Play(Program& program) { program_ = &program; }
 

@@ -2,16 +2,16 @@
 
 #include <functional>
 
-#include "ui/headless_desktop.h"
+#include "tests/support/scripted_front_end.h"
 
 namespace frostmark::test {
 
 // A desktop that looks on while a box stands.
-class WatchfulDesktop : public HeadlessDesktop {
+class WatchfulFrontEnd : public ScriptedFrontEnd {
  public:
   Answer ShowBox(const MessageBox& box) override {
     if (OnBox) OnBox();
-    return HeadlessDesktop::ShowBox(box);
+    return ScriptedFrontEnd::ShowBox(box);
   }
   std::function<void()> OnBox;
 };

@@ -23,7 +23,7 @@ struct MessageBox {
 struct ProgramEnded {};
 
 // All that the game asks of the world outside its screens. A front end implements it.
-class Desktop : public UiQueue {
+class FrontEnd : public UiQueue {
  public:
   // Called once, when all screens stand and before one is shown: the front end sets its observers.
   virtual void Open(ScreenList& screens) = 0;

@@ -1,4 +1,4 @@
-#include "tests/replay/replay_desktop.h"
+#include "tests/replay/replay_front_end.h"
 
 #include <stdexcept>
 #include <utility>
@@ -23,26 +23,26 @@ struct StepsDone {};
 
 }  // namespace
 
-void ReplayDesktop::RunSteps() {
+void ReplayFrontEnd::RunSteps() {
   try {
     while (!steps_.empty()) RunOneStep();
   } catch (const StepsDone&) {
   }
 }
 
-void ReplayDesktop::RunOneStep() {
+void ReplayFrontEnd::RunOneStep() {
   if (steps_.empty()) throw StepsDone();
   const Action step = std::move(steps_.front());
   steps_.pop_front();
   step();
 }
 
-void ReplayDesktop::Wait() {
+void ReplayFrontEnd::Wait() {
   if (WatchGame() || TakeDraftTurn()) return;
   RunOneStep();
 }
 
-bool ReplayDesktop::WatchGame() {
+bool ReplayFrontEnd::WatchGame() {
   Game& game = program_->game;
   if (!game.FranchiseMatch) return false;
   if (instead_of_watching) {
@@ -52,12 +52,12 @@ bool ReplayDesktop::WatchGame() {
   } else if (game.HighButton2.OnView()) {
     game.HighButton2.Click();
   } else {
-    HeadlessDesktop::Wait();
+    ScriptedFrontEnd::Wait();
   }
   return true;
 }
 
-bool ReplayDesktop::TakeDraftTurn() {
+bool ReplayFrontEnd::TakeDraftTurn() {
   FDraft& draft = program_->f_draft;
   if (!draft.AwaitingPick) return false;
   if (program_->f_select_draft.Visible()) {
@@ -72,7 +72,7 @@ bool ReplayDesktop::TakeDraftTurn() {
   throw std::logic_error("the draft waits for the user and opens no list");
 }
 
-reference::DraftChoice ReplayDesktop::DoubleClickSomewhere(ListBox& list) {
+reference::DraftChoice ReplayFrontEnd::DoubleClickSomewhere(ListBox& list) {
   const reference::DraftChoice choice = {
       static_cast<int>(whim_() % static_cast<unsigned>(list.ListCount())), whim_() % 4 != 0};
   QueueAnswer(choice.sure ? "yes" : "no");
@@ -80,21 +80,21 @@ reference::DraftChoice ReplayDesktop::DoubleClickSomewhere(ListBox& list) {
   return choice;
 }
 
-Answer ReplayDesktop::ShowBox(const MessageBox& box) {
+Answer ReplayFrontEnd::ShowBox(const MessageBox& box) {
   told_.push_back(Told(box));
   const bool about_line_up = box.text.starts_with("You have too many players");
   if (about_line_up && LeftOverAnswers() == 0) {
     QueueAnswer("no");
     own_answers.push_back("no");
   }
-  return HeadlessDesktop::ShowBox(box);
+  return ScriptedFrontEnd::ShowBox(box);
 }
 
-std::string ReplayDesktop::AskText(const std::string& prompt) {
+std::string ReplayFrontEnd::AskText(const std::string& prompt) {
   told_.push_back("ask: " + prompt);
-  return HeadlessDesktop::AskText(prompt);
+  return ScriptedFrontEnd::AskText(prompt);
 }
 
-reference::Lines ReplayDesktop::TakeBoxes() { return std::exchange(told_, {}); }
+reference::Lines ReplayFrontEnd::TakeBoxes() { return std::exchange(told_, {}); }
 
 }  // namespace frostmark::test

@@ -1,4 +1,4 @@
-#include "console/console_desktop.h"
+#include "console/console_front_end.h"
 
 #include <algorithm>
 #include <ctime>
@@ -8,7 +8,7 @@
 namespace frostmark {
 namespace {
 
-using Time = HeadlessDesktop::Time;
+using Time = ConsoleFrontEnd::Time;
 
 constexpr Time kMostWaiting = std::chrono::seconds(3600);
 // With the real clock, how many yields pass between two looks at the timers.
@@ -21,8 +21,8 @@ Time SinceStart() {
 
 }  // namespace
 
-ConsoleDesktop::ConsoleDesktop(Transcript& transcript, ScriptStack& script, ConsoleClock clock,
-                               bool interactive)
+ConsoleFrontEnd::ConsoleFrontEnd(Transcript& transcript, ScriptStack& script, ConsoleClock clock,
+                                 bool interactive)
     : transcript_(transcript),
       script_(script),
       real_(clock == ConsoleClock::kReal),
@@ -31,12 +31,12 @@ ConsoleDesktop::ConsoleDesktop(Transcript& transcript, ScriptStack& script, Cons
   SyncClock();
 }
 
-void ConsoleDesktop::SyncClock() {
-  if (real_) MoveTo(SinceStart());
+void ConsoleFrontEnd::SyncClock() {
+  if (real_) clock_.MoveTo(SinceStart());
 }
 
-Time ConsoleDesktop::SinceMidnight() {
-  if (!real_) return HeadlessDesktop::SinceMidnight();
+Time ConsoleFrontEnd::SinceMidnight() {
+  if (!real_) return clock_.SinceMidnight();
   timespec now{};
   clock_gettime(CLOCK_REALTIME, &now);
   tm local{};
@@ -45,16 +45,16 @@ Time ConsoleDesktop::SinceMidnight() {
          std::chrono::seconds(local.tm_sec) + Time(now.tv_nsec / 1000);
 }
 
-void ConsoleDesktop::OpenWebPage(const std::string& address) {
+void ConsoleFrontEnd::OpenWebPage(const std::string& address) {
   transcript_.Line("open: " + address);
 }
 
-void ConsoleDesktop::RunAtYield(std::string_view line) {
+void ConsoleFrontEnd::RunAtYield(std::string_view line) {
   yield_lines_.emplace_back(line);
   attentive_ = true;
 }
 
-void ConsoleDesktop::AttendToYield() {
+void ConsoleFrontEnd::AttendToYield() {
   if (!yield_lines_.empty()) {
     const std::string line = std::move(yield_lines_.front());
     yield_lines_.pop_front();
@@ -63,17 +63,17 @@ void ConsoleDesktop::AttendToYield() {
   } else if (--yields_to_pass_ < 0) {
     yields_to_pass_ = kYieldsBetweenLooks;
     SyncClock();
-    Timers().TickOne();
+    clock_.TickOne();
   }
 }
 
-void ConsoleDesktop::WaitFor(Time at_most) {
-  CountWait();
+void ConsoleFrontEnd::WaitFor(Time at_most) {
+  ++waits_;
   SyncClock();
-  Step(at_most == Time::max() ? at_most : Now() + at_most);
+  Step(at_most == Time::max() ? at_most : clock_.Now() + at_most);
 }
 
-void ConsoleDesktop::Step(Time limit) {
+void ConsoleFrontEnd::Step(Time limit) {
   SyncClock();
   if (time_passes_) {
     PassTime(limit);
@@ -86,53 +86,53 @@ void ConsoleDesktop::Step(Time limit) {
   }
 }
 
-void ConsoleDesktop::LetTimePass(Time time) {
+void ConsoleFrontEnd::LetTimePass(Time time) {
   SyncClock();
   time_passes_ = true;
-  passes_until_ = Now() + time;
+  passes_until_ = clock_.Now() + time;
   condition_ = nullptr;
 }
 
-void ConsoleDesktop::LetTimePassUntil(std::function<bool()> condition, std::string what) {
+void ConsoleFrontEnd::LetTimePassUntil(std::function<bool()> condition, std::string what) {
   LetTimePass(kMostWaiting);
   condition_ = std::move(condition);
   condition_text_ = std::move(what);
 }
 
-void ConsoleDesktop::PassTime(Time limit) {
+void ConsoleFrontEnd::PassTime(Time limit) {
   if (condition_ && condition_()) {
     time_passes_ = false;
     return;
   }
   // A waiter whose time comes at the very end of the wait goes on before the next command is read.
-  const bool waiter_first = limit > Now() && limit <= passes_until_;
-  SleepUntil(std::min({passes_until_, limit, Timers().NextDue().value_or(limit)}));
-  if (Timers().TickOne() || waiter_first || Now() < passes_until_) return;
+  const bool waiter_first = limit > clock_.Now() && limit <= passes_until_;
+  SleepUntil(std::min({passes_until_, limit, clock_.NextDue().value_or(limit)}));
+  if (clock_.TickOne() || waiter_first || clock_.Now() < passes_until_) return;
   time_passes_ = false;
   if (condition_) transcript_.Refuse(condition_text_ + " did not come true within an hour");
 }
 
-void ConsoleDesktop::SleepUntil(Time time) {
-  if (time <= Now()) return;
+void ConsoleFrontEnd::SleepUntil(Time time) {
+  if (time <= clock_.Now()) return;
   if (real_) {
     commands_->BeforeSleep();
     transcript_.Flush();
-    std::this_thread::sleep_for(time - Now());
+    std::this_thread::sleep_for(time - clock_.Now());
     SyncClock();
   } else {
-    MoveTo(time);
+    clock_.MoveTo(time);
   }
 }
 
-void ConsoleDesktop::WaitForCommand(Time limit) {
+void ConsoleFrontEnd::WaitForCommand(Time limit) {
   commands_->BeforeInput();
   if (!script_.HasLine()) {
     transcript_.Flush();
-    const Time end = std::min(limit, Timers().NextDue().value_or(limit));
-    const Time at_most = end == Time::max() ? end : std::max(Time(0), end - Now());
+    const Time end = std::min(limit, clock_.NextDue().value_or(limit));
+    const Time at_most = end == Time::max() ? end : std::max(Time(0), end - clock_.Now());
     if (!script_.WaitForInput(at_most)) {
       SyncClock();
-      Timers().TickOne();
+      clock_.TickOne();
       return;
     }
   }

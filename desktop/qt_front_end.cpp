@@ -1,4 +1,4 @@
-#include "desktop/qt_desktop.h"
+#include "desktop/qt_front_end.h"
 
 #include <QApplication>
 #include <QDesktopServices>
@@ -28,16 +28,16 @@ constexpr std::chrono::milliseconds kBetweenEvents{8};
 
 }  // namespace
 
-QtDesktop::QtDesktop(std::function<void(int code)> leave)
+QtFrontEnd::QtFrontEnd(std::function<void(int code)> leave)
     : leave_(std::move(leave)), guard_([this](const std::string& text) { EndByError(text); }) {
   // A closed message box would count as the last window while all screens are hidden.
   QApplication::setQuitOnLastWindowClosed(false);
   InstallAccess();
 }
 
-QtDesktop::~QtDesktop() = default;
+QtFrontEnd::~QtFrontEnd() = default;
 
-void QtDesktop::Open(ScreenList& screens) {
+void QtFrontEnd::Open(ScreenList& screens) {
   screens_ = &screens;
   for (Screen* screen : screens.All()) {
     screen->SetObserver(this);
@@ -50,25 +50,25 @@ void QtDesktop::Open(ScreenList& screens) {
   }
 }
 
-void QtDesktop::Yield() {
+void QtFrontEnd::Yield() {
   if (yields_left_-- > 0) return;
   yields_left_ = kYieldsPerClockReading - 1;
   if (std::chrono::steady_clock::now() < next_events_) return;
   LetEventsRun();
 }
 
-void QtDesktop::LetEventsRun() {
+void QtFrontEnd::LetEventsRun() {
   QCoreApplication::processEvents(QEventLoop::AllEvents);
   next_events_ = std::chrono::steady_clock::now() + kBetweenEvents;
   StopIfEnded();
 }
 
-void QtDesktop::Wait() {
+void QtFrontEnd::Wait() {
   QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
   StopIfEnded();
 }
 
-void QtDesktop::WaitFor(std::chrono::microseconds at_most) {
+void QtFrontEnd::WaitFor(std::chrono::microseconds at_most) {
   if (at_most <= std::chrono::microseconds::zero()) {
     LetEventsRun();
     return;
@@ -80,11 +80,11 @@ void QtDesktop::WaitFor(std::chrono::microseconds at_most) {
   Wait();
 }
 
-void QtDesktop::StopIfEnded() const {
+void QtFrontEnd::StopIfEnded() const {
   if (guard_.Ended()) throw ProgramEnded{};
 }
 
-QWidget* QtDesktop::FrontWindow() const {
+QWidget* QtFrontEnd::FrontWindow() const {
   const std::vector<Screen*> visible = screens_->VisibleOnes();
   for (auto screen = visible.rbegin(); screen != visible.rend(); ++screen) {
     if (!(*screen)->Minimized()) return Window(**screen);
@@ -92,7 +92,7 @@ QWidget* QtDesktop::FrontWindow() const {
   return nullptr;
 }
 
-void QtDesktop::ComeToFront() {
+void QtFrontEnd::ComeToFront() {
   QWidget* front = QApplication::activeModalWidget();
   if (front == nullptr) front = FrontWindow();
   if (front == nullptr && !screens_->VisibleOnes().empty()) {
@@ -104,27 +104,27 @@ void QtDesktop::ComeToFront() {
   front->activateWindow();
 }
 
-Answer QtDesktop::ShowBox(const MessageBox& box) {
+Answer QtFrontEnd::ShowBox(const MessageBox& box) {
   const Answer answer = ShowMessageBox(box, FrontWindow());
   StopIfEnded();
   return answer;
 }
 
-std::string QtDesktop::AskText(const std::string& prompt) {
+std::string QtFrontEnd::AskText(const std::string& prompt) {
   std::string text = AskForText(prompt, FrontWindow());
   StopIfEnded();
   return text;
 }
 
-void QtDesktop::OpenWebPage(const std::string& address) {
+void QtFrontEnd::OpenWebPage(const std::string& address) {
   QDesktopServices::openUrl(QUrl(QString::fromStdString(address)));
 }
 
-std::chrono::microseconds QtDesktop::SinceMidnight() {
+std::chrono::microseconds QtFrontEnd::SinceMidnight() {
   return std::chrono::milliseconds(QTime::currentTime().msecsSinceStartOfDay());
 }
 
-void QtDesktop::EndProgram() {
+void QtFrontEnd::EndProgram() {
   guard_.SetEnded();
   if (const auto center = stage_.MovedTo()) preferences::SetCenter(*center);
   for (QWidget* window : QApplication::topLevelWidgets()) window->hide();
@@ -132,21 +132,21 @@ void QtDesktop::EndProgram() {
   throw ProgramEnded{};
 }
 
-void QtDesktop::EndByError(const std::string& text) {
+void QtFrontEnd::EndByError(const std::string& text) {
   ShowMessageBox({BoxIcon::kStop, BoxButtons::kOk, text},
                  screens_ == nullptr ? nullptr : FrontWindow());
   for (QWidget* window : QApplication::topLevelWidgets()) window->hide();
   leave_(EXIT_FAILURE);
 }
 
-void QtDesktop::LeaveProcess(int code) {
+void QtFrontEnd::LeaveProcess(int code) {
   // The event loops and the game's procedures on the stack are left as they are: nothing may go on
   // after the end, and no file is open outside a single operation.
   std::fflush(nullptr);
   std::_Exit(code);
 }
 
-void QtDesktop::ScreenChanged(Screen& screen) {
+void QtFrontEnd::ScreenChanged(Screen& screen) {
   auto window = windows_.find(&screen);
   if (window == windows_.end()) {
     if (!screen.Visible()) return;
@@ -160,13 +160,13 @@ void QtDesktop::ScreenChanged(Screen& screen) {
   window->second->Follow(screen.IsPopup() ? OpenerOf(screen) : nullptr);
 }
 
-void QtDesktop::TakePreferences() {
+void QtFrontEnd::TakePreferences() {
   if (const auto center = preferences::Center()) stage_.BeginAround(*center);
   stage_.full_screen = preferences::FullScreen();
   Dress();
 }
 
-void QtDesktop::ChangeZoom(int steps) {
+void QtFrontEnd::ChangeZoom(int steps) {
   constexpr double kStep = 0.1;
   constexpr double kLeast = 0.5;
   if (stage_.full_screen) return;  // everything is as large as it gets
@@ -175,25 +175,25 @@ void QtDesktop::ChangeZoom(int steps) {
   Dress();
 }
 
-void QtDesktop::ToggleFullScreen() {
+void QtFrontEnd::ToggleFullScreen() {
   stage_.full_screen = !stage_.full_screen;
   preferences::SetFullScreen(stage_.full_screen);
   Dress();
 }
 
 // The letters grow with a window over the whole desktop, so that its pages stay what they are.
-void QtDesktop::Dress() {
+void QtFrontEnd::Dress() {
   constexpr double kAsLargeAsItGets = 100;
   const double zoom = FittingZoom(stage_.full_screen ? kAsLargeAsItGets : preferences::Zoom());
   if (zoom != Zoom()) DressApplication(zoom);
   RefitWindows();
 }
 
-void QtDesktop::RefitWindows() {
+void QtFrontEnd::RefitWindows() {
   for (const auto& [screen, window] : windows_) window->Refit();
 }
 
-QWidget* QtDesktop::OpenerOf(const Screen& popup) const {
+QWidget* QtFrontEnd::OpenerOf(const Screen& popup) const {
   const std::vector<Screen*> visible = screens_->VisibleOnes();
   for (auto screen = visible.rbegin(); screen != visible.rend(); ++screen) {
     if (*screen != &popup && !(*screen)->IsPopup()) return Window(**screen);
@@ -201,11 +201,11 @@ QWidget* QtDesktop::OpenerOf(const Screen& popup) const {
   return nullptr;
 }
 
-void QtDesktop::DragRequested(Screen& screen) {
+void QtFrontEnd::DragRequested(Screen& screen) {
   if (ScreenWindow* window = Window(screen)) window->StartDrag();
 }
 
-ScreenWindow* QtDesktop::Window(const Screen& screen) const {
+ScreenWindow* QtFrontEnd::Window(const Screen& screen) const {
   const auto window = windows_.find(&screen);
   return window == windows_.end() ? nullptr : window->second.get();
 }

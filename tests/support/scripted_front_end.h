@@ -7,20 +7,18 @@
 #include <string>
 #include <vector>
 
-#include "ui/desktop.h"
-#include "ui/timer_board.h"
+#include "ui/front_end.h"
+#include "ui/virtual_clock.h"
 
-namespace frostmark {
+namespace frostmark::test {
 
-// A desktop without windows, for tests and for the console: time moves only when it is told to, and
-// boxes are answered from a queue. A test plays the user by queueing what he does at the program's
+// A front end that is played by a test: time moves only when it is told to, and boxes are answered
+// from a queue. A test plays the user by queueing their doings at the program's
 // next yields and waits.
-class HeadlessDesktop : public Desktop {
+class ScriptedFrontEnd : public FrontEnd {
  public:
   using Time = std::chrono::microseconds;
   using Action = std::function<void()>;
-
-  HeadlessDesktop();
 
   void Yield() override;
   void Wait() override;
@@ -59,22 +57,16 @@ class HeadlessDesktop : public Desktop {
   std::int64_t Waits() const { return waits_; }
 
  protected:
-  bool RunAtYield();
   void CountYield() { ++yields_; }
-  void CountWait() { ++waits_; }
-  std::optional<std::string> TakeAnswer();
-  const std::deque<std::string>& Answers() const { return answers_; }
-
-  // Time since the start of the program, and its timers.
-  Time Now() const { return now_; }
-  void MoveTo(Time time) { now_ = time; }
-  TimerBoard& Timers() { return timers_; }
+  // When the next timer is due, if one is.
+  std::optional<Time> NextDue() const { return clock_.NextDue(); }
 
  private:
-  Time now_{0};
-  Time start_of_clock_;
+  std::optional<std::string> TakeAnswer();
+
+  VirtualClock clock_;
+  Time start_of_clock_ = clock_.SinceMidnight();
   bool wraps_at_midnight_ = false;
-  TimerBoard timers_;
   std::deque<std::string> answers_;
   std::deque<Action> at_yield_;
   std::deque<Action> at_wait_;
@@ -85,4 +77,4 @@ class HeadlessDesktop : public Desktop {
   std::int64_t waits_ = 0;
 };
 
-}  // namespace frostmark
+}  // namespace frostmark::test
