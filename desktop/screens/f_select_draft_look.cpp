@@ -1,5 +1,5 @@
 #include "desktop/decorations.h"
-#include "desktop/delegates/player_delegate.h"
+#include "desktop/delegates/scout_delegate.h"
 #include "desktop/list_view.h"
 #include "desktop/screen_form.h"
 #include "desktop/widgets/glow_frame.h"
@@ -8,10 +8,10 @@
 
 namespace frostmark {
 
-void DecorateFSelectDraft(const FSelectDraft& /*screen*/, ScreenForm& form) {
+void DecorateFSelectDraft(const FSelectDraft& screen, ScreenForm& form) {
   auto& list = Part<ListView>(form, "List1");
-  list.setItemDelegate(new PlayerDelegate(&list));
-  GiveRoom(list, 52, 11);
+  list.setItemDelegate(new ScoutDelegate(screen.List2, &list));
+  GiveRoom(list, 40, 11);
   list.setFocus();
   // The screen is only ever there when the user's choice is awaited.
   Part<GlowFrame>(form, "look_choice").SetLit(true);

@@ -3,12 +3,17 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QFile>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QListView>
 #include <QRegularExpression>
+#include <QTextDocumentFragment>
+#include <QToolTip>
 #include <array>
 
+#include "desktop/widgets/crest_mark.h"
 #include "desktop/widgets/glow_frame.h"
+#include "desktop/widgets/taken_flash.h"
 #include "tests/desktop/person.h"
 #include "tests/desktop/window_game.h"
 
@@ -249,6 +254,85 @@ TEST_F(DraftInWindows, AfterARetirementTheOpenListHasTheKeyboardAtOnce) {
   }
   EXPECT_FALSE(select().Visible());
   EXPECT_TRUE(draft().Command1.Enabled());
+}
+
+TEST_F(DraftInWindows, TellsHowFarItHasComeAndWhenTheUserIsNext) {
+  QStringList turns;
+  QStringList waits;
+  bool flashed = false;
+  {
+    Person person(game_.desktop());
+    const auto follow = [&] {
+      if (!draft().Visible()) return;
+      const QString turn = game_.On<QLabel>(draft(), "look_place").text();
+      const QString wait = game_.On<QLabel>(draft(), "look_wait").text();
+      if (!turn.isEmpty() && !turns.contains(turn)) {
+        turns << turn;
+        waits << wait;
+        EXPECT_EQ(game_.On<CrestMark>(draft(), "look_crest").Team().toStdString(),
+                  draft().CurTeam.Caption());
+      }
+      for (const char* name : kPoolLists) {
+        auto* flash = List(draft(), name).viewport()->findChild<TakenFlash*>();
+        flashed |= flash->isVisible() && !flash->Player().isEmpty();
+      }
+    };
+    game_.desktop().at_yield = follow;
+    person.When(
+        "the user's turn", [this] { return ChoosesWhomToLetGo(); },
+        [this] {
+          EXPECT_EQ(game_.On<QLabel>(draft(), "look_wait").text(), "Your turn");
+          EXPECT_EQ(game_.On<QLabel>(select(), "look_question").text(), "Whom to let go?");
+          Person::DoubleClickRow(List(select(), "List1"), 0);
+        });
+    person.ClickInBox("Yes");
+    person.When(
+        "the pool", [this] { return Picks(); },
+        [this] {
+          QListView& pool = List(draft(), kPoolLists[static_cast<std::size_t>(OpenList())]);
+          Person::DoubleClickRow(pool, 0);
+        });
+    person.ClickInBox("Yes");
+    Person::Click(Button(results(), "Command1"));
+  }
+  Settle();
+  ASSERT_EQ(turns.size(), 36);
+  const int own = static_cast<int>(waits.indexOf("Your turn"));
+  ASSERT_GE(own, 0);
+  for (int i = 0; i < 36; ++i) {
+    EXPECT_EQ(turns[i], QStringLiteral("Team %1 of 36").arg(i + 1));
+    const QString wait = i < own    ? QStringLiteral("Yours in %1").arg(own - i)
+                         : i == own ? QStringLiteral("Your turn")
+                                    : QStringLiteral("Yours has picked");
+    EXPECT_EQ(waits[i], wait) << i;
+  }
+  EXPECT_TRUE(flashed);
+  EXPECT_EQ(game_.On<QLabel>(draft(), "look_wait").text(), "The draft is over");
+}
+
+TEST_F(DraftInWindows, ShowsSixRowsOfEachListAndTheSkillsOfAPlayer) {
+  draft().Show();
+  for (ListPair* list : draft().Pool()) {
+    for (int i = 0; i < 20; ++i) {
+      list->records.AddItem("James Smith,CF,85,82,91,70,83,23,N");
+      list->shown.AddItem("James Smith 85/23");
+    }
+  }
+  Settle();
+  for (const char* name : kPoolLists) {
+    QListView& list = List(draft(), name);
+    EXPECT_TRUE(list.viewport()->rect().contains(list.visualRect(list.model()->index(5, 0))))
+        << name;
+  }
+  QListView& list = List(draft(), kPoolLists[2]);
+  const QPoint at = list.visualRect(list.model()->index(1, 0)).center();
+  QHelpEvent help(QEvent::ToolTip, at, list.viewport()->mapToGlobal(at));
+  QApplication::sendEvent(list.viewport(), &help);
+  const QString skills = QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText();
+  for (const char* part :
+       {"James Smith", "Passing", "82", "Shooting", "91", "Defense", "70", "Agility", "83"}) {
+    EXPECT_TRUE(skills.contains(part)) << part << " in " << skills.toStdString();
+  }
 }
 
 }  // namespace
