@@ -36,8 +36,9 @@ double MillisecondsOf(const std::string& program) {
 }
 
 double Median(std::vector<double> times) {
-  std::nth_element(times.begin(), times.begin() + times.size() / 2, times.end());
-  return times[times.size() / 2];
+  const auto middle = times.begin() + std::ssize(times) / 2;
+  std::nth_element(times.begin(), middle, times.end());
+  return *middle;
 }
 
 }  // namespace

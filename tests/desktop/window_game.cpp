@@ -1,9 +1,8 @@
 #include "tests/desktop/window_game.h"
 
 #include <QApplication>
-#include <QDir>
-#include <QFile>
 #include <QSettings>
+#include <QTemporaryDir>
 
 #include "tests/desktop/person.h"
 
@@ -31,15 +30,7 @@ void KeepPreferencesApart() {
   QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
 }
 
-WindowGame::WindowGame() {
-  const QDir folder(folder_.path());
-  folder.mkpath("Settings");
-  for (const char* rank : {"F", "E", "D", "C", "B", "A"}) {
-    folder.mkpath(QString("Teams/Rank %1").arg(rank));
-  }
-  program_ =
-      std::make_unique<Program>(front_end_, dice_, QFile::encodeName(folder_.path()).toStdString());
-}
+WindowGame::WindowGame() : program_(std::make_unique<Program>(front_end_, dice_, world_.path())) {}
 
 void WindowGame::Start() {
   front_end_.guard().Call([this] { program_->Start(); });

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QTemporaryDir>
+#include <QString>
 #include <chrono>
 #include <cstdint>
 #include <functional>
@@ -13,6 +13,7 @@
 #include "desktop/screen_window.h"
 #include "program/program.h"
 #include "records/dice.h"
+#include "tests/support/temporary_world.h"
 
 namespace frostmark::test {
 
@@ -50,7 +51,7 @@ class QuickFrontEnd : public QtFrontEnd {
 // folder of the run's own.
 void KeepPreferencesApart();
 
-// A whole game in windows, in a folder of its own with the empty league folders.
+// A whole game in windows, in a world of its own.
 class WindowGame {
  public:
   WindowGame();
@@ -62,7 +63,7 @@ class WindowGame {
 
   Program& program() { return *program_; }
   QuickFrontEnd& front_end() { return front_end_; }
-  QString Folder() const { return folder_.path(); }
+  QString Folder() const { return QString::fromStdString(world_.path()); }
 
   ScreenWindow& Window(const Screen& screen) const;
 
@@ -73,7 +74,7 @@ class WindowGame {
   }
 
  private:
-  QTemporaryDir folder_;
+  TemporaryWorld world_;
   QuickFrontEnd front_end_;
   RepeatableDice dice_;
   std::unique_ptr<Program> program_;

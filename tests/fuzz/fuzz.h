@@ -7,6 +7,7 @@
 
 #include "program/program.h"
 #include "tests/support/scripted_front_end.h"
+#include "tests/support/seeded_dice.h"
 
 namespace frostmark::test {
 
@@ -21,23 +22,13 @@ inline void Require(bool condition, std::string_view what) {
   std::abort();
 }
 
-// Dice that count up, so that a target can begin each input with the same rolls at no cost.
-class CountingDice : public Dice {
- public:
-  int Roll(int n) override { return static_cast<int>(count_++ % static_cast<unsigned>(n)) + 1; }
-  void Restart() { count_ = 0; }
-
- private:
-  unsigned count_ = 0;
-};
-
 // A game without a world: nothing is read, and what it writes reaches no folder.
 struct Game {
   explicit Game(const std::string& app_path = "/nonexistent/frostmark")
       : program(front_end, dice, app_path) {}
 
   ScriptedFrontEnd front_end;
-  CountingDice dice;
+  SeededDice dice;
   Program program;
 };
 

@@ -14,7 +14,7 @@ void Take(std::string_view input) {
   FillList(list, input.substr(1));
   if (list.ListCount() > 40) return;
   const int count = list.ListCount();
-  game.dice.Restart();
+  game.dice.Reseed(1);
   try {
     franchise.TrainThem(list, "/nonexistent/frostmark/Teams/Rank F/Team");
   } catch (const RuntimeError&) {
