@@ -261,7 +261,7 @@ TEST_F(DraftInWindows, TellsHowFarItHasComeAndWhenTheUserIsNext) {
   QStringList waits;
   bool flashed = false;
   {
-    Person person(game_.desktop());
+    Person person(game_.front_end());
     const auto follow = [&] {
       if (!draft().Visible()) return;
       const QString turn = game_.On<QLabel>(draft(), "look_place").text();
@@ -277,7 +277,7 @@ TEST_F(DraftInWindows, TellsHowFarItHasComeAndWhenTheUserIsNext) {
         flashed |= flash->isVisible() && !flash->Player().isEmpty();
       }
     };
-    game_.desktop().at_yield = follow;
+    game_.front_end().at_yield = follow;
     person.When(
         "the user's turn", [this] { return ChoosesWhomToLetGo(); },
         [this] {
