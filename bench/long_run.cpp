@@ -3,7 +3,6 @@
 #include <cstdio>
 #include <ctime>
 #include <fstream>
-#include <string>
 
 #include "bench/figures.h"
 #include "bench/world_for_bench.h"
