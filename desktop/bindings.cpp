@@ -25,11 +25,13 @@ namespace {
 // The game's texts are bytes. Bytes that are no UTF-8 show as replacement characters.
 QString Shown(const std::string& text) { return QString::fromStdString(text); }
 
-// A button's text, in which "&" marks LETTER, that of its Alt key, where the caption has it.
+// A button's text, in which "&" marks the letter of its Alt key where the caption has it and is
+// more than a mark.
 QString ButtonText(const std::string& caption, QChar letter_of_key) {
   QString text = Shown(caption);
-  const qsizetype letter =
-      letter_of_key.isNull() ? -1 : text.indexOf(letter_of_key, 0, Qt::CaseInsensitive);
+  const qsizetype letter = letter_of_key.isNull() || text.size() == 1
+                               ? -1
+                               : text.indexOf(letter_of_key, 0, Qt::CaseInsensitive);
   text.replace('&', "&&");
   if (letter >= 0) text.insert(letter, '&');
   return text;

@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QEventLoop>
+#include <QTimer>
 
 #include "desktop/screen_window.h"
 
@@ -33,15 +35,23 @@ Album::Album(QString out) : out_(std::move(out)) {
   program_ = std::make_unique<Program>(front_end_, dice_, world_.path());
 }
 
+QImage Album::Picture(const Screen& screen) const {
+  const ScreenWindow* window = front_end_.Window(screen);
+  if (window == nullptr) qFatal("%s has never been shown", screen.Name().c_str());
+  return const_cast<ScreenWindow*>(window)->grab().toImage();
+}
+
 void Album::Take(const Screen& screen, const QString& name) {
   // Layouts and lists settle over a few rounds.
   for (int i = 0; i < 5; ++i) QApplication::processEvents();
-  const ScreenWindow* window = front_end_.Window(screen);
-  if (window == nullptr) qFatal("%s has never been shown", screen.Name().c_str());
   const QString path = out_ + "/" + name + ".png";
-  if (!const_cast<ScreenWindow*>(window)->grab().save(path)) {
-    qFatal("cannot write %s", qPrintable(path));
-  }
+  if (!Picture(screen).save(path)) qFatal("cannot write %s", qPrintable(path));
+}
+
+void Album::LetPass(std::chrono::milliseconds time) {
+  QEventLoop loop;
+  QTimer::singleShot(time, &loop, &QEventLoop::quit);
+  loop.exec();
 }
 
 void Album::Run(Timer& timer, int times) {

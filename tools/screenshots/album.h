@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QString>
 #include <chrono>
 #include <functional>
@@ -42,6 +43,14 @@ class Album {
   // Saves the window of SCREEN as OUT/NAME.png.
   void Take(const Screen& screen, const QString& name);
 
+  // Lets the windows move for a while.
+  static void LetPass(std::chrono::milliseconds time);
+
+  // The window of SCREEN as it looks now.
+  QImage Picture(const Screen& screen) const;
+  // The folder for the pictures.
+  const QString& out() const { return out_; }
+
   // Lets TIMER tick until it is disabled, at most TIMES times.
   static void Run(Timer& timer, int times);
 
@@ -56,5 +65,10 @@ class Album {
 // Each plays a part of the game and takes its pictures, in this order.
 void TakeStartAndMatch(Album& album);
 void TakeFranchise(Album& album);
+
+// Plays a game up to its first goal and saves what the rink looks like around it, a picture every
+// kFrame: "frame-000.png" and so on.
+inline constexpr std::chrono::milliseconds kFrame{60};
+void FilmGoal(Album& album);
 
 }  // namespace frostmark

@@ -3,6 +3,8 @@
 namespace frostmark {
 namespace {
 
+constexpr std::chrono::milliseconds kBannerTime{2000};
+
 void ChooseTeams(FStartGame& screen) {
   screen.List3.Select(0);
   screen.File1.Select(2);
@@ -42,7 +44,11 @@ void TakeStartAndMatch(Album& album) {
   Album::Run(game.Timer1, 201);
   game.HighButton1.Click();
   Album::Run(game.Timer2, 90);
+  // The banners of the goals so far go.
+  game.Timer2.Disable();
+  Album::LetPass(kBannerTime);
   album.Take(game, "game");
+  game.Timer2.Enable();
   // On to the next goal, which is marked for a moment.
   const std::string home = game.Label3.Caption();
   const std::string visitor = game.Label4.Caption();
@@ -50,6 +56,8 @@ void TakeStartAndMatch(Album& album) {
          game.Label4.Caption() == visitor) {
     Album::Run(game.Timer2, 1);
   }
+  game.Timer2.Disable();
+  Album::LetPass(kBannerTime / 4);  // it sweeps in
   album.Take(game, "game-goal");
   game.Label5.Click();
 }
