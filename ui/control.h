@@ -110,7 +110,7 @@ class Control {
   void Enable() { SetEnabled(true); }
   void Disable() { SetEnabled(false); }
 
-  // Whether some procedure may show it (kNeverShown) and a person then gets to it (kOutside).
+  // Whether no procedure ever shows it, and whether it lies where nobody gets to it.
   bool NeverShown() const { return start_ == Start::kNeverShown; }
   bool Outside() const { return start_ == Start::kOutside; }
 

@@ -86,7 +86,7 @@ class TextBox : public CaptionedControl {
   void SetText(std::string_view text) { SetCaption(text); }
   int MaxLength() const { return max_length_; }
 
-  // What a person's typing comes to: what the box takes of TEXT (UTF-8), cut at the limit.
+  // What a person's typing results in: what the box takes of TEXT (UTF-8), cut at the limit.
   void Type(std::string_view text);
   // TEXT (UTF-8) without the characters that the box does not take: "/", which no file name holds,
   // and control characters.
@@ -130,13 +130,12 @@ class ListBox : public Control, public RecordList {
   Handler OnClick;
   Handler OnDoubleClick;
 
-  // What a person's click on item I comes to: it is selected, then OnClick runs.
+  // What a person's click on item I does: it is selected, then OnClick runs.
   void Select(int i);
-  // What a double click on item I comes to: a click, then OnDoubleClick.
+  // What a double click on item I does: a click, then OnDoubleClick.
   void DoubleClick(int i);
 
-  using RecordList::SetObserver;  // the items' observer
-  void SetControlObserver(Control::Observer* observer) { Control::SetObserver(observer); }
+  using RecordList::SetObserver;  // the items' observer; the control's is Control's
 
  protected:
   ListBox(Place place, ControlKind kind, std::string name, Start start, Called called = {})
@@ -160,7 +159,7 @@ class ListPair {
 };
 
 // The listing of a folder: the names of all its files, without those of folders, in alphabetical
-// order without regard to case. It keeps what it read until its path is set anew.
+// order without regard to case. It keeps what it read until its path is set again.
 class FileListBox : public ListBox {
  public:
   FileListBox(Place place, std::string name, Start start = Start::kShown)

@@ -80,13 +80,7 @@ TEST_F(ControlsTest, AreOnViewWhenScreenFrameAndTheyThemselvesAre) {
 
 TEST_F(ControlsTest, TellTheirObserverOfChangesOnly) {
   Watcher watcher;
-  for (Control* control : sample_.Controls()) {
-    if (auto* list = dynamic_cast<ListBox*>(control)) {
-      list->SetControlObserver(&watcher);
-    } else {
-      control->SetObserver(&watcher);
-    }
-  }
+  for (Control* control : sample_.Controls()) control->SetObserver(&watcher);
   sample_.Label1.SetCaption("text");
   sample_.Button1.Hide();
   sample_.Label1.Enable();
