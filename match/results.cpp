@@ -118,7 +118,7 @@ void Franchise::SetStandings(RecordList& list, const std::string& name1, const s
   }
 }
 
-// The walk goes upward on purpose while the lines move up behind it: of the old news every second
+// The walk goes upward on purpose while the lines after it move up: of the old news every second
 // line goes, so that they thin out over the weeks and do not end all at once.
 void Franchise::TrimAlerts() {
   if (Alerts.ListCount() <= kNewsKept) return;

@@ -25,7 +25,7 @@ class Ordvik {
   Ordvik(UiQueue& queue, Dice& dice, std::string app_path);
 
   // general.cpp
-  // A whole number from 1 to N. The generator is seeded anew from the clock at every call.
+  // A whole number from 1 to N. The generator is seeded from the clock at every call.
   int RollUpTo(int n);
   // Whether SOUGHT occurs in TEXT at or after the 1-based position START; case counts. The empty
   // text occurs in every text.

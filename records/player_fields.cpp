@@ -41,7 +41,7 @@ Int16 Number(Parts& parts, Field field) {
 }
 
 // What VALUE adds to the field. Agility is left out on purpose: it is a gift of birth that no
-// training moves, so a call for it comes to nothing.
+// training moves, so a call for it does nothing.
 double Amount(Field field, std::string_view value) {
   return field == Field::kAgility ? 0 : std::floor(LenientNumber(value));
 }
@@ -95,7 +95,7 @@ std::string HockeyNaming::SetField(std::string_view record, std::string_view fie
   CurAgility = Number(parts, Field::kAgility);
   CurAge = Number(parts, Field::kAge);
   CurTraining = Part(parts, Field::kTraining);
-  if (IsForward(CurPosition) || IsBack(CurPosition)) {  // anybody else keeps the text that he has
+  if (IsForward(CurPosition) || IsBack(CurPosition)) {  // anybody else keeps the text that they have
     Part(parts, Field::kOverall) = std::to_string(OverallAt(CurPosition, CurRatings(), CurOverall));
   }
   return Join(parts);

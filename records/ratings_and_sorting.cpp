@@ -109,7 +109,7 @@ void HockeyNaming::SetTrainingFlags(RecordList& list) {
       if (j != i && FieldView(mine, Field::kPosition) == FieldView(other, Field::kPosition)) {
         const bool mine_leads = OverallOf(mine) > OverallOf(other);
         // The two change places as well as lines. Each pair is met once from either side, so that
-        // in the end everybody stands where he stood, and the later one has won a tie.
+        // in the end everybody stands where they stood, and the later one has won a tie.
         list.SetList(j, SetField(mine, "Training", mine_leads ? "N" : "Y"));
         list.SetList(i, SetField(other, "Training", mine_leads ? "Y" : "N"));
       }

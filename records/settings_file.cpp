@@ -87,7 +87,7 @@ void Store(Lines& lines, std::string_view key, std::string_view value) {
     lines[*place] = entry;
     return;
   }
-  // A new key goes behind the last one of the section, before blank lines that part it from the
+  // A new key goes after the last one of the section, before blank lines that part it from the
   // next.
   std::size_t end = section.last;
   while (end > section.first && Trimmed(lines[end - 1]).empty()) --end;

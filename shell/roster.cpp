@@ -6,7 +6,7 @@ namespace frostmark {
 namespace {
 
 // Moves the selected player of SHOWN and its RECORDS to the end of the other line. The selection is
-// read anew for each step: that is where the selected line then is.
+// read again for each step: that is where the selected line then is.
 void MovePlayer(HockeyNaming& naming, const char* training, ListBox& shown, ListBox& records,
                 ListBox& to_shown, ListBox& to_records) {
   records.SetList(shown.ListIndex(),

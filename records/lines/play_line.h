@@ -33,7 +33,7 @@ struct PlayLine {
 // are not read.
 std::string FormatPlayLine(const PlayLine& line);
 
-// What LINE tells, in views into it; nothing when it is no line of the play-by-play.
+// What LINE tells, in views into it; nothing when it is not a line of the play-by-play.
 std::optional<PlayLine> ParsePlayLine(std::string_view line);
 
 }  // namespace frostmark
