@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "desktop/guard.h"
+#include "desktop/keyboard_return.h"
 #include "desktop/stage.h"
 #include "ui/front_end.h"
 
@@ -71,6 +72,7 @@ class QtFrontEnd : public FrontEnd, public Screen::Observer {
   std::vector<std::unique_ptr<Ticker>> tickers_;
   std::unordered_map<const Screen*, std::unique_ptr<ScreenWindow>> windows_;
   Stage stage_;
+  KeyboardReturn keyboard_return_;
   int yields_left_ = 0;  // until the clock is read again
   std::chrono::steady_clock::time_point next_events_;
 };

@@ -97,6 +97,7 @@ TEST_F(Comfort, F11FillsTheDesktopAndGivesItBack) {
     PressUntil(sitting, "F11", [&](QRect now) { return now == whole; });
     EXPECT_TRUE(sitting.Ask([] { return preferences::FullScreen(); }));
     // The next screen does the same.
+    sitting.UntilInFront(start);
     sitting.x().Key("alt+s");
     FStartGame& choice = sitting.program().f_start_game;
     sitting.UntilInFront(choice);

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <string>
 
 #include "tests/windows/sitting.h"
@@ -175,6 +176,19 @@ TEST(Keyboard, ASingleGameIsSetUpAndLeft) {
     sitting.TabTo("Label2");
     sitting.x().Key("Return");
     sitting.UntilAt(program.startup, "HighButton2");
+  });
+}
+
+// As when a box closes in the moment that its window is given the keyboard.
+TEST(Keyboard, AWindowThatHasLostItComesToItsKeysAgain) {
+  Sit([](Sitting& sitting) {
+    Startup& start = sitting.program().startup;
+    sitting.UntilInFront(start);
+    sitting.x().PretendLoss(sitting.Window(start).id);
+    sitting.UntilGame("the loss", [] { return QApplication::activeWindow() == nullptr; });
+    sitting.UntilInFront(start);
+    sitting.x().Key("alt+s");
+    sitting.UntilInFront(sitting.program().f_start_game);
   });
 }
 

@@ -79,12 +79,14 @@ void Sitting::UntilInFront(const Screen& screen) {
   Until(screen.Name() + " in front", [&] {
     const XWindow window = Window(screen);
     if (!window.mapped || window.iconic || x_.Active() != window.id) return false;
-    // The application learns a little later where its window is.
+    // The application learns a little later where its window is, and that it has the keyboard.
+    bool active = false;
     const QRect known = Ask([&] {
       const ScreenWindow& own = game_.Window(screen);
+      active = QApplication::activeWindow() == &own;
       return OnScreen(own, own.rect());
     });
-    return Near(known.topLeft(), window.place.topLeft()) &&
+    return active && Near(known.topLeft(), window.place.topLeft()) &&
            Near(known.bottomRight(), window.place.bottomRight());
   });
   Keep(screen.Name());

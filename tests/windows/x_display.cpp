@@ -173,6 +173,18 @@ void XDisplay::Activate(std::uint32_t window) { Tell(window, "_NET_ACTIVE_WINDOW
 
 void XDisplay::Close(std::uint32_t window) { Tell(window, "_NET_CLOSE_WINDOW", 0); }
 
+void XDisplay::PretendLoss(std::uint32_t window) {
+  xcb_focus_out_event_t event{};
+  event.response_type = XCB_FOCUS_OUT;
+  event.detail = XCB_NOTIFY_DETAIL_NONLINEAR;
+  event.event = window;
+  event.mode = XCB_NOTIFY_MODE_NORMAL;
+  char message[32] = {};
+  std::memcpy(message, &event, sizeof event);
+  xcb_send_event(connection_, 0, window, XCB_EVENT_MASK_NO_EVENT, message);
+  xcb_flush(connection_);
+}
+
 void XDisplay::MoveMouse(QPoint to) {
   xcb_test_fake_input(connection_, XCB_MOTION_NOTIFY, 0, XCB_CURRENT_TIME, root_,
                       static_cast<std::int16_t>(to.x()), static_cast<std::int16_t>(to.y()), 0);

@@ -50,6 +50,9 @@ class XDisplay {
   void Activate(std::uint32_t window);
   void Close(std::uint32_t window);
 
+  // Has the application believe that WINDOW has lost the keyboard, which it has not.
+  void PretendLoss(std::uint32_t window);
+
   // Places on the screen. Buttons are 1 (left), 2 (middle), 3 (right).
   void MoveMouse(QPoint to);
   void Press(int button = 1);
