@@ -115,6 +115,8 @@ class Franchise : public Screen {
   void ShowOwnRatings();  // as captions: those of the team rated last
   // shell/save_and_resume.cpp: writes settings, roster, standings and alerts, then says so.
   void SaveGame();
+  // Whether the settings on the disk are those of this franchise as it stands.
+  bool IsSaved() const;
 
   // season/schedule.cpp
   void GenSchedule();  // fills league lists and standings from the folders and sets "Week 1"

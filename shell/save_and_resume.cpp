@@ -46,6 +46,12 @@ void Franchise::SaveGame() {
   program_.front_end.ShowBox({BoxIcon::kInformation, BoxButtons::kOk, "File saved!"});
 }
 
+bool Franchise::IsSaved() const {
+  const auto values = program_.ordvik.ReadSettings({"Team", "Rank", "Week", "Season", "Champion"});
+  return values && *values == std::vector{TeamName.Caption(), MyRank.Caption(), NextWeek.Caption(),
+                                          Season.Caption(), Champion.Caption()};
+}
+
 namespace {
 
 struct SavedGame {
@@ -122,6 +128,13 @@ std::optional<SavedGame> FindSavedGame(Program& program) {
 }
 
 }  // namespace
+
+bool Startup::HasSavedGame() const {
+  Ordvik& ordvik = program_.ordvik;
+  const auto values = ordvik.ReadSettings({"Team", "Rank"});
+  return values && !program_.under_way.IsBuild() &&
+         !LeagueOf(ordvik, (*values)[0], (*values)[1]).empty();
+}
 
 void Startup::PressLoad() {
   Ordvik& ordvik = program_.ordvik;

@@ -48,6 +48,8 @@ class Startup : public Screen {
   // shell/save_and_resume.cpp
   // Resumes the saved franchise. Does nothing when there is none.
   void PressLoad();
+  // Whether there is a saved franchise, by a short look at the disk: PressLoad looks closer.
+  bool HasSavedGame() const;
 
   // shell/new_franchise.cpp
   void PressNew();

@@ -3,6 +3,7 @@
 #include "desktop/fonts.h"
 #include "desktop/list_view.h"
 #include "desktop/screen_form.h"
+#include "desktop/widgets/empty_note.h"
 #include "desktop/widgets/pin.h"
 #include "desktop/widgets/room.h"
 #include "desktop/widgets/versus_view.h"
@@ -14,6 +15,7 @@ namespace {
 void ShowTeams(ListView& list) {
   list.setItemDelegate(new TeamNameDelegate(&list));
   GiveRoom(list, 32, 7);
+  new EmptyNote(list, "Choose a league first.");
 }
 
 QString Chosen(const RecordList& teams) {

@@ -13,6 +13,7 @@
 #include "desktop/screens/franchise_parts.h"
 #include "desktop/screens/own_team.h"
 #include "desktop/screens/spoken_news.h"
+#include "desktop/widgets/empty_note.h"
 #include "desktop/widgets/roles.h"
 #include "desktop/widgets/room.h"
 #include "desktop/widgets/standings_heading.h"
@@ -55,6 +56,10 @@ void DressRoster(ScreenForm& form) {
     list.setItemDelegate(delegate);
     GiveRoom(list, 46, 10);
   }
+  new EmptyNote(Part<ListView>(form, "MainRoster"),
+                "Nobody plays. The lead line wants one player of each position.");
+  new EmptyNote(Part<ListView>(form, "TrainingRoster"),
+                "Nobody trains. Move players here from the lead line.");
 }
 
 // Left and Right move the selected player to the line on that side, as the arrow between the lines
@@ -85,18 +90,13 @@ class RosterKeys : public QObject {
   QAbstractButton& arrow_;
 };
 
-// Keeps the place of a widget that comes and goes, so that the others do not jump.
-void KeepPlace(QWidget& widget) {
-  QSizePolicy policy = widget.sizePolicy();
-  policy.setRetainSizeWhenHidden(true);
-  widget.setSizePolicy(policy);
-}
-
 }  // namespace
 
 void DecorateFranchise(const Franchise& screen, ScreenForm& form) {
   UsePosterFonts();
   DressNews(screen, form);
+  new EmptyNote(Part<ListView>(form, "Alerts"),
+                "No games yet. The results of every league come in week by week.");
   DressStandings(screen, form);
   DressRoster(form);
   new RosterKeys(Part<ListView>(form, "MainRoster"), Qt::Key_Right,
@@ -106,8 +106,9 @@ void DecorateFranchise(const Franchise& screen, ScreenForm& form) {
 
   ShowOwn(Part<QLabel>(form, "TeamName"), true);
   SetLook(Part<QLabel>(form, "look_versus"), "role", "versus");
-  KeepPlace(Part<QLabel>(form, "Label18"));
-  KeepPlace(Part<QPushButton>(form, "Command5"));
+  KeepPlaceWhenHidden(Part<QLabel>(form, "Label18"));
+  KeepPlaceWhenHidden(Part<QPushButton>(form, "Command5"));
+  DressWeek(screen, form);
 
   TellOwnResult(screen, form);
 }

@@ -15,8 +15,10 @@
 #include "desktop/screens/spoken_news.h"
 #include "desktop/widgets/crest_mark.h"
 #include "desktop/widgets/deed_ribbon.h"
+#include "desktop/widgets/empty_note.h"
 #include "desktop/widgets/goal_sheet.h"
 #include "desktop/widgets/ice_banner.h"
+#include "desktop/widgets/marked_tabs.h"
 #include "desktop/widgets/match_tally.h"
 #include "desktop/widgets/pin.h"
 #include "desktop/widgets/rink_view.h"
@@ -161,6 +163,19 @@ void MarkTeams(const Game& game, ScreenForm& form) {
   });
 }
 
+// Until the first period has begun, its page calls from beside the rosters.
+void CallToGame(const Game& game, ScreenForm& form) {
+  constexpr int kGamePage = 1;
+  auto& pages = Part<MarkedTabs>(form, "XTab1");
+  const auto follow = [&game, &pages] {
+    const bool begun = game.Period1.Value() > 0 || game.Timer1.Enabled();
+    const bool calls = !begun && game.XTab1.Front() != kGamePage;
+    pages.Mark(calls ? kGamePage : -1, MarkedTabs::Manner::kCalling, "The game starts here");
+  };
+  follow();
+  QObject::connect(&form, &ScreenForm::Refreshed, &pages, follow);
+}
+
 void ShowLine(ListView& line) {
   auto* delegate = new LineupDelegate(&line);
   delegate->StretchRows(1.5);
@@ -178,6 +193,7 @@ void DecorateGame(const Game& screen, ScreenForm& form) {
   events.setItemDelegate(new PlayDelegate(&events));
   events.LetRowsGrow();
   GiveRoom(events, 40, 6);
+  new EmptyNote(events, "Play by play, from the first face-off on.");
   new Pin(Part<QWidget>(form, "Label5"), Qt::AlignTop | Qt::AlignRight, {0, 18, 8, 0});
 
   KeepPlaceWhenHidden(Part<QWidget>(form, "HighButton1"));
@@ -194,6 +210,7 @@ void DecorateGame(const Game& screen, ScreenForm& form) {
                    Part<MatchTally>(form, "look_tally"),
                    {&Part<GoalSheet>(form, "look_goals1"), &Part<GoalSheet>(form, "look_goals2")}});
   MarkTeams(screen, form);
+  CallToGame(screen, form);
   TellPlay(screen, form);
 }
 

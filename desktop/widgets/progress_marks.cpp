@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <cmath>
 
+#include "desktop/painting/cup.h"
 #include "desktop/painting/palette.h"
 
 namespace frostmark {
@@ -34,11 +35,15 @@ double ProgressMarks::MarkSize() const {
 QSize ProgressMarks::sizeHint() const {
   const QFontMetrics metrics(font());
   const double size = MarkSize();
-  const auto count = static_cast<double>(steps_.size());
+  const double count = MarkCount();
   const double marks = count * size + (count - 1) * size * kGap + 4;
   return {static_cast<int>(
               std::ceil(std::max(marks, static_cast<double>(metrics.horizontalAdvance(text()))))),
           static_cast<int>(std::ceil(metrics.height() * 1.15 + size + 4))};
+}
+
+int ProgressMarks::MarkCount() const {
+  return static_cast<int>(steps_.size()) + (finished_.isEmpty() ? 0 : 1);
 }
 
 int ProgressMarks::CurrentStep() const {
@@ -58,7 +63,13 @@ void ProgressMarks::PaintMark(QPainter& painter, const QRectF& rect, int step, i
                             : QColor(palette::kDeep));
   painter.drawEllipse(rect.adjusted(1, 1, -1, -1));
   painter.setPen(QColor(here || behind ? palette::kIce : palette::kFaint));
-  painter.drawText(rect, Qt::AlignCenter, steps_[step].section(' ', -1));
+  if (step < steps_.size()) {
+    painter.drawText(rect, Qt::AlignCenter, steps_[step].section(' ', -1));
+  } else {
+    const double inset = rect.width() * 0.24;
+    PaintCup(painter, rect.adjusted(inset, inset, -inset, -inset),
+             here ? palette::kIce : palette::kGold);
+  }
 }
 
 void ProgressMarks::paintEvent(QPaintEvent* /*event*/) {
@@ -73,7 +84,7 @@ void ProgressMarks::paintEvent(QPaintEvent* /*event*/) {
   painter.setFont(MarkFont());
   const int current = CurrentStep();
   QRectF mark(whole.left(), whole.bottom() - size - 1, size, size);
-  for (int step = 0; step < steps_.size(); ++step) {
+  for (int step = 0; step < MarkCount(); ++step) {
     PaintMark(painter, mark, step, current);
     mark.translate(size * (1 + kGap), 0);
   }
