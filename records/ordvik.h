@@ -69,9 +69,9 @@ class Ordvik {
   static bool MoveFile(const std::string& source, const std::string& destination);
   // Whether NAME can be the name of a file in a folder: not empty, and no way into another folder.
   static bool IsFileName(std::string_view name);
-  // Whether the leagues and Settings lie in the program's folder, however they got there: a link that
-  // leads out of it would have somebody else's files deleted as teams. A folder that is missing
-  // leads nowhere.
+  // Whether the leagues and Settings lie in the program's folder, however they got there: a link
+  // that leads out of it would have somebody else's files deleted as teams. A folder that is
+  // missing leads nowhere.
   bool KeepsToItsFolder() const;
   // The folder of the league RANK ("Rank F" to "Rank A"), without a separator at its end.
   std::string RankFolder(std::string_view rank) const;

@@ -95,7 +95,8 @@ std::string HockeyNaming::SetField(std::string_view record, std::string_view fie
   CurAgility = Number(parts, Field::kAgility);
   CurAge = Number(parts, Field::kAge);
   CurTraining = Part(parts, Field::kTraining);
-  if (IsForward(CurPosition) || IsBack(CurPosition)) {  // anybody else keeps the text that they have
+  if (IsForward(CurPosition) ||
+      IsBack(CurPosition)) {  // anybody else keeps the text that they have
     Part(parts, Field::kOverall) = std::to_string(OverallAt(CurPosition, CurRatings(), CurOverall));
   }
   return Join(parts);
