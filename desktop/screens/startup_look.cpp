@@ -9,6 +9,7 @@
 #include "desktop/screens/remark.h"
 #include "desktop/stage.h"
 #include "desktop/widgets/empty_note.h"
+#include "desktop/widgets/frost_drift.h"
 #include "desktop/widgets/pin.h"
 #include "desktop/widgets/roles.h"
 #include "desktop/widgets/room.h"
@@ -121,6 +122,7 @@ void DecorateStartup(const Startup& screen, ScreenForm& form) {
   KeepPlaceWhenHidden(Part<QWidget>(form, "HighButton4"));
   KeepPlaceWhenHidden(Part<QWidget>(form, "HighButton5"));
   new NameRoom(Part<TitleScene>(form, "look_scene"));
+  new FrostDrift(Part<TitleScene>(form, "look_scene"));
   ShowPlayers(Part<ListView>(form, "List1"));
   ShowPlayers(Part<ListView>(form, "List2"));
   new PanelOpening(Part<QWidget>(form, "Frame1"));

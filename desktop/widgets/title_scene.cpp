@@ -126,6 +126,139 @@ QPainterPath Ring(const Perspective& ice, double across, double depth, double ra
   return ring;
 }
 
+// The mark in the centre circle: six arms of frost.
+void DrawFrost(QPainter& painter, const Perspective& ice, double line) {
+  constexpr double kAcross = 0;
+  constexpr double kDepth = 0.25;
+  const auto at = [&ice](double angle, double out) {
+    return ice.At(kAcross + std::cos(angle) * out, kDepth + std::sin(angle) * out * 0.32);
+  };
+  painter.setPen(QPen(Glass(palette::kBlue, 150), line, Qt::SolidLine, Qt::RoundCap));
+  for (int arm = 0; arm < 6; ++arm) {
+    const double angle = (arm + 0.5) * 3.14159265358979 / 3;
+    painter.drawLine(at(angle, 0.06), at(angle, 0.23));
+    for (const double side : {-0.24, 0.24}) {
+      painter.drawLine(at(angle, 0.13), at(angle + side, 0.19));
+      painter.drawLine(at(angle, 0.18), at(angle + side * 0.7, 0.235));
+    }
+  }
+}
+
+// What skates have left: long, thin arcs, every time the same.
+void DrawTraces(QPainter& painter, const QRectF& area) {
+  struct Trace {
+    double x, y, to_x, to_y, bend;
+  };
+  constexpr std::array<Trace, 9> kTraces = {{{0.33, 0.97, 0.62, 0.84, -0.05},
+                                             {0.38, 0.99, 0.70, 0.88, -0.06},
+                                             {0.02, 0.82, 0.40, 0.93, 0.04},
+                                             {0.06, 0.90, 0.36, 0.83, -0.03},
+                                             {0.46, 0.76, 0.60, 0.97, 0.03},
+                                             {0.30, 0.70, 0.46, 0.62, -0.02},
+                                             {0.86, 0.64, 0.99, 0.72, 0.02},
+                                             {0.52, 0.93, 0.80, 0.985, 0.02},
+                                             {0.90, 0.58, 0.78, 0.64, 0.02}}};
+  painter.setBrush(Qt::NoBrush);
+  const auto place = [&area](double x, double y) {
+    return QPointF(area.left() + area.width() * x, area.top() + area.height() * y);
+  };
+  for (const Trace& trace : kTraces) {
+    QPainterPath path(place(trace.x, trace.y));
+    path.quadTo(place((trace.x + trace.to_x) / 2, (trace.y + trace.to_y) / 2 + trace.bend),
+                place(trace.to_x, trace.to_y));
+    painter.setPen(QPen(QColor(0x6F, 0x97, 0xC4, 105), area.height() * 0.0032));
+    painter.drawPath(path);
+    painter.setPen(QPen(QColor(255, 255, 255, 200), area.height() * 0.0016));
+    painter.drawPath(path.translated(0, area.height() * 0.0026));
+  }
+}
+
+// The far goal, on the ice before the boards.
+void DrawGoal(QPainter& painter, const QRectF& area) {
+  const QPointF foot = Perspective(area).At(0, 0.5);
+  const double wide = area.width() * 0.135;
+  const double high = area.height() * 0.15;
+  const double depth = high * 0.2;
+  const QRectF mouth(foot.x() - wide / 2, foot.y() - high, wide, high);
+  // The crease.
+  painter.setPen(QPen(Glass(palette::kRed, 190), area.height() * 0.006));
+  painter.setBrush(QColor(0x8F, 0xC1, 0xF2, 190));
+  QPainterPath crease(mouth.bottomLeft() - QPointF(wide * 0.1, 0));
+  crease.quadTo(QPointF(foot.x(), foot.y() + area.height() * 0.085),
+                mouth.bottomRight() + QPointF(wide * 0.1, 0));
+  crease.closeSubpath();
+  painter.drawPath(crease);
+  // The net, which narrows to the back.
+  const QRectF back = mouth.adjusted(wide * 0.09, depth * 0.5, -wide * 0.09, -depth * 0.6);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(12, 28, 54, 110));
+  painter.drawRect(mouth);
+  painter.setPen(QPen(QColor(238, 246, 252, 150), area.height() * 0.0018));
+  constexpr int kMeshes = 11;
+  const auto between = [](const QPointF& one, const QPointF& other, double share) {
+    return one + (other - one) * share;
+  };
+  for (int i = 0; i <= kMeshes; ++i) {
+    const double share = static_cast<double>(i) / kMeshes;
+    painter.drawLine(between(back.topLeft(), back.topRight(), share),
+                     between(back.bottomLeft(), back.bottomRight(), share));
+    painter.drawLine(between(mouth.topLeft(), mouth.topRight(), share),
+                     between(back.topLeft(), back.topRight(), share));
+    painter.drawLine(between(back.topLeft(), back.bottomLeft(), share),
+                     between(back.topRight(), back.bottomRight(), share));
+    painter.drawLine(between(mouth.topLeft(), mouth.bottomLeft(), share),
+                     between(back.topLeft(), back.bottomLeft(), share));
+    painter.drawLine(between(mouth.topRight(), mouth.bottomRight(), share),
+                     between(back.topRight(), back.bottomRight(), share));
+  }
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(QColor(palette::kRedDeep), area.height() * 0.013, Qt::SolidLine, Qt::RoundCap,
+                      Qt::RoundJoin));
+  const std::array frame = {mouth.bottomLeft(), mouth.topLeft(), mouth.topRight(),
+                            mouth.bottomRight()};
+  painter.drawPolyline(frame.data(), static_cast<int>(frame.size()));
+  painter.setPen(QPen(QColor(0xFF, 0x8A, 0x92), area.height() * 0.003));
+  painter.drawLine(mouth.topLeft(), mouth.topRight());
+}
+
+// Our own stick, its blade beside the puck.
+void DrawStick(QPainter& painter, const QRectF& area) {
+  const auto place = [&area](double x, double y) {
+    return QPointF(area.left() + area.width() * x, area.top() + area.height() * y);
+  };
+  const double unit = area.height();
+  const QPointF heel = place(0.868, 0.905);
+  const QPointF toe = place(0.735, 0.888);
+  const QPointF grip = place(1.06, 0.50);
+  painter.setBrush(Qt::NoBrush);
+  const auto stroke = [&painter](const QPainterPath& path, const QColor& colour, double wide,
+                                 Qt::PenCapStyle cap) {
+    painter.setPen(QPen(colour, wide, Qt::SolidLine, cap, Qt::RoundJoin));
+    painter.drawPath(path);
+  };
+  QPainterPath whole(grip);
+  whole.lineTo(heel);
+  whole.quadTo(place(0.80, 0.925), toe);
+  stroke(whole.translated(unit * 0.012, unit * 0.03), QColor(10, 24, 48, 46), unit * 0.034,
+         Qt::RoundCap);
+  QPainterPath shaft(grip);
+  shaft.lineTo(heel);
+  stroke(shaft, QColor(0x1A, 0x22, 0x30), unit * 0.036, Qt::FlatCap);
+  stroke(shaft, QColor(palette::kRed), unit * 0.024, Qt::FlatCap);
+  stroke(shaft.translated(-unit * 0.006, -unit * 0.002), QColor(255, 255, 255, 90), unit * 0.005,
+         Qt::FlatCap);
+  QPainterPath blade(heel);
+  blade.quadTo(place(0.80, 0.925), toe);
+  stroke(blade, QColor(0x12, 0x19, 0x26), unit * 0.054, Qt::RoundCap);
+  // Tape around the blade.
+  for (int turn = 1; turn < 12; ++turn) {
+    const QPointF at = blade.pointAtPercent(turn / 12.5);
+    QPainterPath tape(at - QPointF(unit * 0.006, unit * 0.022));
+    tape.lineTo(at + QPointF(unit * 0.006, unit * 0.022));
+    stroke(tape, QColor(0x4A, 0x58, 0x6E), unit * 0.0035, Qt::RoundCap);
+  }
+}
+
 void DrawIce(QPainter& painter, const QRectF& area) {
   const double horizon = area.top() + area.height() * kHorizon;
   QLinearGradient shine(QPointF(0, horizon), area.bottomLeft());
@@ -146,6 +279,8 @@ void DrawIce(QPainter& painter, const QRectF& area) {
   painter.setPen(Qt::NoPen);
   painter.setBrush(QColor(palette::kBlue));
   painter.drawPath(Ring(ice, 0, 0.25, 0.022));
+  DrawFrost(painter, ice, area.height() * 0.007);
+  DrawTraces(painter, area);
 }
 
 void DrawBoards(QPainter& painter, const QRectF& area) {
@@ -256,6 +391,8 @@ QPixmap TitleScene::Drawn() const {
   DrawLights(painter, area);
   DrawIce(painter, area);
   DrawBoards(painter, area);
+  DrawGoal(painter, area);
+  DrawStick(painter, area);
   DrawPuck(painter, area);
   DrawName(painter, area, layout() == nullptr ? 0 : layout()->contentsMargins().left());
   CutCorners(painter, area);
