@@ -3,6 +3,7 @@
 #include <QLayout>
 #include <QPainter>
 #include <QPainterPath>
+#include <QTimer>
 #include <array>
 #include <cmath>
 
@@ -149,27 +150,32 @@ void DrawTraces(QPainter& painter, const QRectF& area) {
   struct Trace {
     double x, y, to_x, to_y, bend;
   };
-  constexpr std::array<Trace, 9> kTraces = {{{0.33, 0.97, 0.62, 0.84, -0.05},
+  constexpr std::array<Trace, 7> kTraces = {{{0.33, 0.97, 0.62, 0.84, -0.05},
                                              {0.38, 0.99, 0.70, 0.88, -0.06},
                                              {0.02, 0.82, 0.40, 0.93, 0.04},
-                                             {0.06, 0.90, 0.36, 0.83, -0.03},
-                                             {0.46, 0.76, 0.60, 0.97, 0.03},
                                              {0.30, 0.70, 0.46, 0.62, -0.02},
                                              {0.86, 0.64, 0.99, 0.72, 0.02},
                                              {0.52, 0.93, 0.80, 0.985, 0.02},
                                              {0.90, 0.58, 0.78, 0.64, 0.02}}};
-  painter.setBrush(Qt::NoBrush);
   const auto place = [&area](double x, double y) {
     return QPointF(area.left() + area.width() * x, area.top() + area.height() * y);
   };
+  // Filled, as a long thin line is slow to stroke; and a trace runs out at its ends.
+  painter.setPen(Qt::NoPen);
+  const QPointF depth(0, area.height() * 0.0052);
   for (const Trace& trace : kTraces) {
-    QPainterPath path(place(trace.x, trace.y));
-    path.quadTo(place((trace.x + trace.to_x) / 2, (trace.y + trace.to_y) / 2 + trace.bend),
-                place(trace.to_x, trace.to_y));
-    painter.setPen(QPen(QColor(0x6F, 0x97, 0xC4, 105), area.height() * 0.0032));
-    painter.drawPath(path);
-    painter.setPen(QPen(QColor(255, 255, 255, 200), area.height() * 0.0016));
-    painter.drawPath(path.translated(0, area.height() * 0.0026));
+    const QPointF from = place(trace.x, trace.y);
+    const QPointF to = place(trace.to_x, trace.to_y);
+    const QPointF by = place((trace.x + trace.to_x) / 2, (trace.y + trace.to_y) / 2 + trace.bend);
+    const auto cut = [&](const QPointF& upper, const QPointF& lower, const QColor& colour) {
+      QPainterPath path(from);
+      path.quadTo(upper, to);
+      path.quadTo(lower, from);
+      painter.setBrush(colour);
+      painter.drawPath(path);
+    };
+    cut(by, by + depth, QColor(0x6F, 0x97, 0xC4, 150));
+    cut(by + depth, by + depth * 1.8, QColor(255, 255, 255, 210));
   }
 }
 
@@ -193,7 +199,9 @@ void DrawGoal(QPainter& painter, const QRectF& area) {
   painter.setPen(Qt::NoPen);
   painter.setBrush(QColor(12, 28, 54, 110));
   painter.drawRect(mouth);
-  painter.setPen(QPen(QColor(238, 246, 252, 150), area.height() * 0.0018));
+  // Hairlines, which are drawn fast.
+  painter.setRenderHint(QPainter::Antialiasing, false);
+  painter.setPen(QPen(QColor(238, 246, 252, 150), 0));
   constexpr int kMeshes = 11;
   const auto between = [](const QPointF& one, const QPointF& other, double share) {
     return one + (other - one) * share;
@@ -211,6 +219,7 @@ void DrawGoal(QPainter& painter, const QRectF& area) {
     painter.drawLine(between(mouth.topRight(), mouth.bottomRight(), share),
                      between(back.topRight(), back.bottomRight(), share));
   }
+  painter.setRenderHint(QPainter::Antialiasing);
   painter.setBrush(Qt::NoBrush);
   painter.setPen(QPen(QColor(palette::kRedDeep), area.height() * 0.013, Qt::SolidLine, Qt::RoundCap,
                       Qt::RoundJoin));
@@ -279,8 +288,6 @@ void DrawIce(QPainter& painter, const QRectF& area) {
   painter.setPen(Qt::NoPen);
   painter.setBrush(QColor(palette::kBlue));
   painter.drawPath(Ring(ice, 0, 0.25, 0.022));
-  DrawFrost(painter, ice, area.height() * 0.007);
-  DrawTraces(painter, area);
 }
 
 void DrawBoards(QPainter& painter, const QRectF& area) {
@@ -391,18 +398,41 @@ QPixmap TitleScene::Drawn() const {
   DrawLights(painter, area);
   DrawIce(painter, area);
   DrawBoards(painter, area);
-  DrawGoal(painter, area);
-  DrawStick(painter, area);
   DrawPuck(painter, area);
   DrawName(painter, area, layout() == nullptr ? 0 : layout()->contentsMargins().left());
   CutCorners(painter, area);
   return scene;
 }
 
+void TitleScene::DrawDetails() {
+  const QRect area(rect());
+  QPainter painter(&scene_);
+  painter.setRenderHint(QPainter::Antialiasing);
+  DrawFrost(painter, Perspective(area), area.height() * 0.007);
+  DrawTraces(painter, area);
+  DrawGoal(painter, area);
+  DrawStick(painter, area);
+}
+
 void TitleScene::paintEvent(QPaintEvent* /*event*/) {
   // Drawn beside the window, whose shadow lies under the corners that are cut.
-  if (scene_.isNull() || scene_.devicePixelRatio() != devicePixelRatioF()) scene_ = Drawn();
+  if (scene_.isNull() || scene_.devicePixelRatio() != devicePixelRatioF()) {
+    scene_ = Drawn();
+    if (detailed_) {
+      DrawDetails();
+    } else {
+      // The program is there sooner with an empty rink, which nobody sees for so short a time.
+      QTimer::singleShot(0, this, &TitleScene::AddDetails);
+    }
+  }
   QPainter(this).drawPixmap(0, 0, scene_);
+}
+
+void TitleScene::AddDetails() {
+  if (detailed_) return;
+  detailed_ = true;
+  if (!scene_.isNull()) DrawDetails();
+  update();
 }
 
 void TitleScene::resizeEvent(QResizeEvent* event) {

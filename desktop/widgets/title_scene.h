@@ -25,8 +25,12 @@ class TitleScene : public QWidget {
 
  private:
   QPixmap Drawn() const;
+  // What stands on the ice comes after the first frame, which is not to wait for it.
+  void DrawDetails();
+  void AddDetails();
 
   QPixmap scene_;  // as it was last drawn
+  bool detailed_ = false;
 };
 
 }  // namespace frostmark
