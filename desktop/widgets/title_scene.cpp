@@ -236,9 +236,9 @@ void DrawStick(QPainter& painter, const QRectF& area) {
     return QPointF(area.left() + area.width() * x, area.top() + area.height() * y);
   };
   const double unit = area.height();
-  const QPointF heel = place(0.868, 0.905);
-  const QPointF toe = place(0.735, 0.888);
-  const QPointF grip = place(1.06, 0.50);
+  const QPointF heel = place(0.912, 0.905);
+  const QPointF toe = place(0.79, 0.888);
+  const QPointF grip = place(1.085, 0.50);
   painter.setBrush(Qt::NoBrush);
   const auto stroke = [&painter](const QPainterPath& path, const QColor& colour, double wide,
                                  Qt::PenCapStyle cap) {
@@ -247,7 +247,7 @@ void DrawStick(QPainter& painter, const QRectF& area) {
   };
   QPainterPath whole(grip);
   whole.lineTo(heel);
-  whole.quadTo(place(0.80, 0.925), toe);
+  whole.quadTo(place(0.85, 0.925), toe);
   stroke(whole.translated(unit * 0.012, unit * 0.03), QColor(10, 24, 48, 46), unit * 0.034,
          Qt::RoundCap);
   QPainterPath shaft(grip);
@@ -257,7 +257,7 @@ void DrawStick(QPainter& painter, const QRectF& area) {
   stroke(shaft.translated(-unit * 0.006, -unit * 0.002), QColor(255, 255, 255, 90), unit * 0.005,
          Qt::FlatCap);
   QPainterPath blade(heel);
-  blade.quadTo(place(0.80, 0.925), toe);
+  blade.quadTo(place(0.85, 0.925), toe);
   stroke(blade, QColor(0x12, 0x19, 0x26), unit * 0.054, Qt::RoundCap);
   // Tape around the blade.
   for (int turn = 1; turn < 12; ++turn) {
