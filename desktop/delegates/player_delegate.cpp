@@ -4,8 +4,12 @@
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <optional>
+#include <utility>
 
 #include "desktop/painting/palette.h"
+#include "desktop/painting/place_mark.h"
+#include "desktop/painting/player_columns.h"
 #include "desktop/painting/position_badge.h"
 #include "desktop/painting/rating_painter.h"
 #include "desktop/painting/row_painter.h"
@@ -21,36 +25,6 @@ QFont Bold(QFont font) {
   font.setWeight(QFont::DemiBold);
   return font;
 }
-
-// The room for any number of two digits: the digits of a face need not be equally wide.
-double TwoDigits(const QFont& font) {
-  const QFontMetricsF metrics(font);
-  double widest = 0;
-  for (char digit = '0'; digit <= '9'; ++digit) {
-    widest = std::max(widest, metrics.horizontalAdvance(QLatin1Char(digit)));
-  }
-  return std::ceil(2 * widest) + 1;
-}
-
-// The columns of a row, from the font alone.
-struct Columns {
-  explicit Columns(const QStyleOptionViewItem& option)
-      : gap(row::Margin(option)),
-        badge(PositionBadgeSize(QFontMetricsF(option.font))),
-        number(TwoDigits(Bold(option.font))),
-        name(option.fontMetrics.averageCharWidth() * 18.0),
-        age(TwoDigits(option.font)),
-        shortest_bar(option.fontMetrics.averageCharWidth() * 3.0),
-        longest_bar(option.fontMetrics.averageCharWidth() * 16.0) {}
-
-  double gap;
-  QSizeF badge;
-  double number;
-  double name;
-  double age;
-  double shortest_bar;
-  double longest_bar;
-};
 
 std::optional<PlayerLine> ParseAnyPlayer(std::string_view text) {
   auto player = ParsePlayerLine(text);
@@ -68,9 +42,26 @@ double WidestName(const QAbstractItemModel& players, const QFont& font) {
   return std::ceil(widest) + 1;
 }
 
+void PaintMark(QPainter& painter, const QStyleOptionViewItem& option, const QRectF& room,
+               PlayerDelegate::Mark mark) {
+  if (mark == PlayerDelegate::Mark::kBetter) {
+    const double size = std::min(room.width(), option.fontMetrics.height() * 0.75);
+    QRectF arrow(0, 0, size, size);
+    arrow.moveCenter(room.center());
+    PaintFate(painter, arrow, Fate::kGoesUp);
+  } else if (mark == PlayerDelegate::Mark::kDoubled) {
+    painter.setFont(Bold(option.font));
+    const bool selected = option.state & QStyle::State_Selected;
+    row::PaintText(painter, room, "x2", selected ? row::TextColor(option) : QColor(palette::kGold),
+                   Qt::AlignHCenter);
+    painter.setFont(option.font);
+  }
+}
+
+// MARK is nothing in a list whose rows are never marked.
 void PaintPlayer(QPainter& painter, const QStyleOptionViewItem& option, const PlayerLine& player,
-                 double widest_name) {
-  const Columns columns(option);
+                 double widest_name, std::optional<PlayerDelegate::Mark> mark) {
+  const PlayerColumns columns(option.font);
   QRectF rest = QRectF(option.rect).adjusted(columns.gap, 0, -columns.gap, 0);
 
   if (!player.position.empty()) {
@@ -78,6 +69,12 @@ void PaintPlayer(QPainter& painter, const QStyleOptionViewItem& option, const Pl
     badge.moveTop(rest.center().y() - badge.height() / 2);
     PaintPositionBadge(painter, badge, Shown(player.position));
     rest.setLeft(badge.right() + columns.gap);
+  }
+  if (mark) {
+    QRectF room = rest;
+    room.setWidth(columns.mark);
+    PaintMark(painter, option, room, *mark);
+    rest.setLeft(room.right() + columns.gap);
   }
 
   QRectF age = rest;
@@ -122,12 +119,21 @@ void PaintPlayer(QPainter& painter, const QStyleOptionViewItem& option, const Pl
 
 }  // namespace
 
+void PlayerDelegate::MarkRows(std::function<Mark(int row)> mark_of) {
+  mark_of_ = std::move(mark_of);
+}
+
+PlayerDelegate::Mark PlayerDelegate::MarkOf(int row) const {
+  return mark_of_ ? mark_of_(row) : Mark::kNone;
+}
+
 bool PlayerDelegate::PaintRow(QPainter& painter, const QStyleOptionViewItem& option,
                               const QModelIndex& index) const {
   const std::string text = option.text.toStdString();
   const auto player = ParseAnyPlayer(text);
   if (!player) return false;
-  PaintPlayer(painter, option, *player, WidestName(*index.model(), option.font));
+  PaintPlayer(painter, option, *player, WidestName(*index.model(), option.font),
+              mark_of_ ? std::optional(mark_of_(index.row())) : std::nullopt);
   return true;
 }
 

@@ -5,7 +5,6 @@
 #include <array>
 
 #include "desktop/decorations.h"
-#include "desktop/delegates/player_delegate.h"
 #include "desktop/delegates/team_delegate.h"
 #include "desktop/fonts.h"
 #include "desktop/list_view.h"
@@ -29,9 +28,8 @@ constexpr std::array kStandings = {"StatRankF", "StatRankE", "StatRankD",
 constexpr std::array kHeadings = {"look_heading_f", "look_heading_e", "look_heading_d",
                                   "look_heading_c", "look_heading_b", "look_heading_a"};
 
-// Six teams or players have the room of a page to themselves.
+// Six teams have the room of a page to themselves.
 constexpr double kStandingsStretch = 1.5;
-constexpr double kRosterStretch = 1.25;
 
 void DressStandings(const Franchise& screen, ScreenForm& form) {
   for (std::size_t i = 0; i < kStandings.size(); ++i) {
@@ -46,20 +44,6 @@ void DressStandings(const Franchise& screen, ScreenForm& form) {
     GiveRoom(list, 44, 9);
     Part<StandingsHeading>(form, kHeadings[i]).StandOver(list);
   }
-}
-
-void DressRoster(ScreenForm& form) {
-  for (const char* name : {"MainRoster", "TrainingRoster"}) {
-    auto& list = Part<ListView>(form, name);
-    auto* delegate = new PlayerDelegate(&list);
-    delegate->StretchRows(kRosterStretch);
-    list.setItemDelegate(delegate);
-    GiveRoom(list, 46, 10);
-  }
-  new EmptyNote(Part<ListView>(form, "MainRoster"),
-                "Nobody plays. The lead line wants one player of each position.");
-  new EmptyNote(Part<ListView>(form, "TrainingRoster"),
-                "Nobody trains. Move players here from the lead line.");
 }
 
 // Left and Right move the selected player to the line on that side, as the arrow between the lines
@@ -98,7 +82,7 @@ void DecorateFranchise(const Franchise& screen, ScreenForm& form) {
   new EmptyNote(Part<ListView>(form, "Alerts"),
                 "No games yet. The results of every league come in week by week.");
   DressStandings(screen, form);
-  DressRoster(form);
+  DressLineUp(screen, form);
   new RosterKeys(Part<ListView>(form, "MainRoster"), Qt::Key_Right,
                  Part<QAbstractButton>(form, "Command3"));
   new RosterKeys(Part<ListView>(form, "TrainingRoster"), Qt::Key_Left,

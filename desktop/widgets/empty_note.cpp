@@ -33,7 +33,10 @@ EmptyNote::EmptyNote(QAbstractItemView& list, const QString& why)
   setVisible(IsDue());
 }
 
-bool EmptyNote::IsDue() const { return !list_.isHidden() && list_.model()->rowCount() == 0; }
+bool EmptyNote::IsDue() const {
+  const QAbstractItemModel* rows = list_.model();
+  return !list_.isHidden() && rows != nullptr && rows->rowCount() == 0;
+}
 
 void EmptyNote::Follow() {
   if (!IsDue()) {

@@ -46,6 +46,26 @@ Int16 OverallAt(std::string_view position, const Ratings& ratings, Int16 old_ove
   return old_overall;
 }
 
+bool CountsAt(std::string_view position, Field field) {
+  switch (field) {
+    case Field::kPassing:
+      return IsBack(position) || IsForward(position);
+    case Field::kShooting:
+      return IsForward(position);
+    case Field::kDefense:
+      return IsBack(position);
+    case Field::kAgility:
+      return position != "GO" && (IsBack(position) || IsForward(position));
+    case Field::kName:
+    case Field::kPosition:
+    case Field::kOverall:
+    case Field::kAge:
+    case Field::kTraining:
+      break;
+  }
+  return false;
+}
+
 std::string FormatPlayerRecord(const PlayerFields& fields) {
   std::string record(fields[0]);
   for (std::size_t i = 1; i < fields.size(); ++i) {

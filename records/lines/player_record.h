@@ -46,6 +46,9 @@ struct Ratings {
 // Agility, averaged and rounded half to even.
 Int16 OverallAt(std::string_view position, const Ratings& ratings, Int16 old_overall);
 
+// Whether the skill FIELD counts at POSITION.
+bool CountsAt(std::string_view position, Field field);
+
 bool IsForward(std::string_view position);
 bool IsBack(std::string_view position);  // a defenceman or the goalie
 
