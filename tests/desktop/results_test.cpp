@@ -1,9 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QImage>
-#include <QProxyStyle>
-#include <QStyleFactory>
 #include <QtTest>
 #include <array>
 
@@ -12,22 +9,11 @@
 #include "desktop/widgets/confetti.h"
 #include "desktop/widgets/season_fate.h"
 #include "tests/desktop/person.h"
+#include "tests/desktop/still_desktop.h"
 #include "tests/desktop/window_game.h"
 
 namespace frostmark::test {
 namespace {
-
-// A desktop that asks for less motion.
-class StillStyle : public QProxyStyle {
- public:
-  using QProxyStyle::QProxyStyle;
-  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                QStyleHintReturn* answer) const override {
-    return hint == SH_Widget_Animation_Duration
-               ? 0
-               : QProxyStyle::styleHint(hint, option, widget, answer);
-  }
-};
 
 // The results of a season in which the user's team has come in somewhere.
 class ResultsPage : public testing::Test {
@@ -114,15 +100,13 @@ TEST_F(ResultsPage, ATitleIsCelebratedForAWhileAndThenAllIsStill) {
 }
 
 TEST_F(ResultsPage, ATitleIsCelebratedWithoutMotionWhereNoneIsWanted) {
-  const QString usual = QApplication::style()->name();
-  QApplication::setStyle(new StillStyle(usual));
+  const StillDesktop still;
   ShowWithOwnAt(5, 0);
   EXPECT_TRUE(Papers().InTheAir());
   EXPECT_FALSE(Papers().Moves());
   const QImage before = Papers().grab().toImage();
   QTest::qWait(1);
   EXPECT_EQ(Papers().grab().toImage(), before);
-  QApplication::setStyle(usual);
 }
 
 }  // namespace

@@ -1,31 +1,18 @@
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QImage>
-#include <QProxyStyle>
 #include <QtTest>
 
 #include "desktop/widgets/frost_drift.h"
 #include "desktop/widgets/title_scene.h"
 #include "tests/desktop/person.h"
+#include "tests/desktop/still_desktop.h"
 #include "tests/desktop/window_game.h"
 
 namespace frostmark::test {
 namespace {
 
 constexpr int kPatience = 10000;  // milliseconds
-
-// A desktop that asks for less motion.
-class StillStyle : public QProxyStyle {
- public:
-  using QProxyStyle::QProxyStyle;
-  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                QStyleHintReturn* answer) const override {
-    return hint == SH_Widget_Animation_Duration
-               ? 0
-               : QProxyStyle::styleHint(hint, option, widget, answer);
-  }
-};
 
 class Title : public testing::Test {
  protected:
@@ -64,13 +51,11 @@ TEST_F(Title, FrostStandsStillWhileTheWindowIsNotTheActiveOne) {
 }
 
 TEST_F(Title, NothingDriftsWhereNoMotionIsWanted) {
-  const QString usual = QApplication::style()->name();
-  QApplication::setStyle(new StillStyle(usual));
+  const StillDesktop still;
   game_.Start();
   QTest::qWait(1000);  // longer than it takes to begin
   EXPECT_FALSE(Drift().Moves());
   EXPECT_TRUE(Drift().Places().empty());
-  QApplication::setStyle(usual);
 }
 
 TEST_F(Title, ThereIsSomethingToBeSeenAllOverTheIce) {
