@@ -23,7 +23,7 @@ namespace frostmark {
 // ten of them.
 class Program {
  public:
-  // DESKTOP and DICE outlive the program. APP_PATH is the program's folder.
+  // FRONT_END and DICE outlive the program. APP_PATH is the program's folder.
   Program(FrontEnd& front_end, Dice& dice, std::string app_path);
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;

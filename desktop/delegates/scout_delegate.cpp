@@ -1,5 +1,6 @@
 #include "desktop/delegates/scout_delegate.h"
 
+#include <QAbstractItemView>
 #include <QHelpEvent>
 #include <QToolTip>
 #include <array>
