@@ -112,7 +112,7 @@ void BringToFront(Console& console, Words& words) {
   strip.SetFront(static_cast<int>(found - tabs.begin()));
 }
 
-// What the close button of a window comes to.
+// What the close button of a window does.
 void Close(Console& console, Words& words) {
   const std::string name = words.Next("a screen");
   words.ExpectEnd();

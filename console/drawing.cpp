@@ -18,7 +18,7 @@ constexpr std::size_t kIndent = 4;
 
 // Draws the controls of one screen in the order in which they are declared, which is the order in
 // which they are read. A label that ends in a colon waits for what it names; short values gather on
-// one line, neighbouring lists beside one another.
+// one line, neighbboring lists beside one another.
 class ScreenDrawing {
  public:
   explicit ScreenDrawing(const Page& page) : page_(page) {}
@@ -63,10 +63,10 @@ class ScreenDrawing {
 
   const Page page_;
   TextLines lines_;
-  std::vector<TextLines> frames_;  // neighbouring frames, gathered; the last one goes on
+  std::vector<TextLines> frames_;  // neighbboring frames, gathered; the last one goes on
   std::string name_;               // of what comes next
   std::string values_;             // short values, gathered
-  std::vector<TextLines> lists_;   // neighbouring lists, gathered
+  std::vector<TextLines> lists_;   // neighbboring lists, gathered
   std::string buttons_;
 };
 

@@ -24,7 +24,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int kRemembered = 1000;
-// The keys of an arrow come together; one that comes alone is no part of a sequence.
+// The keys of an arrow come together; one that comes alone is not part of a sequence.
 constexpr CommandSource::Time kWithinSequence = std::chrono::milliseconds(200);
 
 std::string CommonStart(const std::vector<std::string>& words) {
@@ -79,7 +79,7 @@ LineEditor& LineEditor::Of(EditLine* editing) {
 
 char* LineEditor::PromptOf(EditLine* editing) { return Of(editing).prompt_.data(); }
 
-// One sign; bytes that are no UTF-8 are passed over.
+// One sign; bytes that are not UTF-8 are passed over.
 int LineEditor::NextKey(EditLine* editing, wchar_t* key) {
   std::mbstate_t state{};
   while (WaitToRead(STDIN_FILENO, kWithinSequence)) {

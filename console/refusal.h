@@ -5,7 +5,7 @@
 namespace frostmark {
 
 // Thrown by a command that cannot be done or understood, with the reason as a person reads it
-// behind "refused:". Caught where the command was read; no std::exception, so that nobody takes it
+// after "refused:". Caught where the command was read; no std::exception, so that nobody takes it
 // for a failure of the game.
 struct Refusal {
   std::string reason;

@@ -47,7 +47,7 @@ bool IsIn(const std::array<Range, count>& ranges, char32_t sign) {
   });
 }
 
-// Takes the first sign off TEXT: kBroken, and one byte, where it is no UTF-8.
+// Takes the first sign off TEXT: kBroken, and one byte, where it is not UTF-8.
 char32_t TakeSign(std::string_view& text) {
   constexpr std::array<char32_t, 5> kLeast = {0, 0, 0x80, 0x800, 0x10000};
   const auto byte = [&text](std::size_t i) { return static_cast<unsigned char>(text[i]); };

@@ -12,10 +12,10 @@ using TextLines = std::vector<std::string>;
 std::size_t WidthOf(std::string_view text);
 
 // TEXT with everything that a terminal would act on, that turns the direction of writing or that
-// shows nothing, and every byte that is no UTF-8, replaced by a question mark.
+// shows nothing, and every byte that is not UTF-8, replaced by a question mark.
 std::string Printable(std::string_view text);
 
-// TEXT and blanks behind it up to WIDTH columns.
+// TEXT and blanks after it up to WIDTH columns.
 std::string Padded(std::string text, std::size_t width);
 
 // The beginning of TEXT that fits WIDTH columns.

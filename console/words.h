@@ -17,7 +17,7 @@ class Words {
   std::string Next(const char* what);
   // The next word as a whole number.
   int NextNumber(const char* what);
-  // Everything behind the one blank that follows the last word, blanks and quotes included.
+  // Everything after the one blank that follows the last word, blanks and quotes included.
   std::string_view Rest();
   bool AtEnd();
   // The first character of the next word; only where AtEnd is false.

@@ -22,7 +22,7 @@
 namespace frostmark {
 namespace {
 
-// The game's texts are bytes. Bytes that are no UTF-8 show as replacement characters.
+// The game's texts are bytes. Bytes that are not UTF-8 show as replacement characters.
 QString Shown(const std::string& text) { return QString::fromStdString(text); }
 
 // A button's text, in which "&" marks the letter of its Alt key where the caption has it and is

@@ -20,8 +20,8 @@ QPen Stroke(double width) {
   return {QColor(Qt::white), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
 }
 
-void PaintDisc(QPainter& painter, QRgb colour, QRgb edge) {
-  painter.setBrush(QColor(colour));
+void PaintDisc(QPainter& painter, QRgb color, QRgb edge) {
+  painter.setBrush(QColor(color));
   painter.setPen(QPen(QColor(edge), 2));
   painter.drawEllipse(kMiddle, 14.5, 14.5);
 }

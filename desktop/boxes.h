@@ -7,7 +7,7 @@
 
 namespace frostmark {
 
-// The sign of ICON in the program's own colours, SIZE pixels wide at the scale RATIO. Null for no
+// The sign of ICON in the program's own colors, SIZE pixels wide at the scale RATIO. Null for no
 // icon.
 QPixmap BoxSign(BoxIcon icon, int size, double ratio);
 

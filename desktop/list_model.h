@@ -8,7 +8,7 @@ namespace frostmark {
 
 // A list of the game as a Qt model. It holds no item: it reads the list itself whenever a view
 // asks. The list tells of a change after it has happened, so the number of rows lags behind inside
-// a notification, and a row that is no longer there reads as an empty text.
+// a notification, and a row that is not there any more reads as an empty text.
 class RecordListModel : public QAbstractListModel, public RecordList::Observer {
   Q_OBJECT
 

@@ -21,7 +21,7 @@ class ScreenWindow : public QWidget {
   Q_OBJECT
 
  public:
-  // CLOSE_PROGRAM is what closing the window of a main screen comes to.
+  // CLOSE_PROGRAM is what closing the window of a main screen does.
   ScreenWindow(Screen& screen, Guard& guard, Stage& stage, std::function<void()> close_program);
   ~ScreenWindow() override;
 

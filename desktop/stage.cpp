@@ -40,9 +40,9 @@ QSize Stage::Size(double points) {
 
 QRect Stage::ForScreen(QSize size) const {
   const QRect room =
-      moved_ ? Room(centre_.toPoint()) : QGuiApplication::primaryScreen()->availableGeometry();
-  const QPointF centre = moved_ ? centre_ : QRectF(room).center();
-  const QPointF corner = centre - QPointF(size.width(), size.height()) / 2;
+      moved_ ? Room(center_.toPoint()) : QGuiApplication::primaryScreen()->availableGeometry();
+  const QPointF center = moved_ ? center_ : QRectF(room).center();
+  const QPointF corner = center - QPointF(size.width(), size.height()) / 2;
   return Inside(QRect(corner.toPoint(), size), room);
 }
 
@@ -63,16 +63,16 @@ QRect Stage::ForPopup(QSize size, const QRect& opener) const {
 void Stage::BeginAround(const QPoint& center) {
   if (QGuiApplication::screenAt(center) == nullptr) return;
   moved_ = true;
-  centre_ = center;
+  center_ = center;
 }
 
 std::optional<QPoint> Stage::MovedTo() const {
-  return moved_ ? std::optional(centre_.toPoint()) : std::nullopt;
+  return moved_ ? std::optional(center_.toPoint()) : std::nullopt;
 }
 
 void Stage::MoveTo(const QRect& window) {
   moved_ = true;
-  centre_ = QRectF(window).center();
+  center_ = QRectF(window).center();
 }
 
 }  // namespace frostmark

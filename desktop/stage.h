@@ -7,8 +7,8 @@
 
 namespace frostmark {
 
-// Where windows go. The main screens take turns on one stage: they share one size and one centre,
-// so that the game seems to be a single window. The centre is the screen's at the start and moves
+// Where windows go. The main screens take turns on one stage: they share one size and one center,
+// so that the game seems to be a single window. The center is the screen's at the start and moves
 // when the user drags a main screen. Popups lie beside the stage.
 class Stage {
  public:
@@ -35,7 +35,7 @@ class Stage {
 
  private:
   bool moved_ = false;
-  QPointF centre_;
+  QPointF center_;
 };
 
 }  // namespace frostmark

@@ -22,7 +22,7 @@
 namespace frostmark {
 namespace {
 
-constexpr std::pair<const char*, QRgb> kColours[] = {
+constexpr std::pair<const char*, QRgb> kColors[] = {
     {"deep", palette::kDeep},
     {"night", palette::kNight},
     {"panel", palette::kPanel},
@@ -58,7 +58,7 @@ QString ValueOf(const QString& name) {
   if (name == "poster") return Families(kPosterFace, kPosterStandIn);
   if (name == "script") return Families(kScriptFace, kScriptStandIn);
   if (name == "corner") return QString::number(kWindowCorner) + "px";
-  for (const auto& [known, color] : kColours) {
+  for (const auto& [known, color] : kColors) {
     if (name == QLatin1String(known)) return QColor(color).name();
   }
   qFatal("The style sheet names what neither palette nor measures have: %s", qPrintable(name));
@@ -78,21 +78,21 @@ QString InPoints(QString sheet) {
   return sheet;
 }
 
-QPalette Colours() {
-  QPalette colours{QColor(palette::kRaised), QColor(palette::kNight)};
-  colours.setColor(QPalette::Base, QColor(palette::kDeep));
-  colours.setColor(QPalette::AlternateBase, QColor(palette::kPanel));
+QPalette Colors() {
+  QPalette colors{QColor(palette::kRaised), QColor(palette::kNight)};
+  colors.setColor(QPalette::Base, QColor(palette::kDeep));
+  colors.setColor(QPalette::AlternateBase, QColor(palette::kPanel));
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
                           QPalette::BrightText, QPalette::ToolTipText}) {
-    colours.setColor(role, QColor(palette::kIce));
-    colours.setColor(QPalette::Disabled, role, QColor(palette::kFaint));
+    colors.setColor(role, QColor(palette::kIce));
+    colors.setColor(QPalette::Disabled, role, QColor(palette::kFaint));
   }
-  colours.setColor(QPalette::PlaceholderText, QColor(palette::kFrost));
-  colours.setColor(QPalette::Highlight, QColor(palette::kBlueDeep));
-  colours.setColor(QPalette::HighlightedText, Qt::white);
-  colours.setColor(QPalette::Link, QColor(palette::kBlueBright));
-  colours.setColor(QPalette::ToolTipBase, QColor(palette::kPanel));
-  return colours;
+  colors.setColor(QPalette::PlaceholderText, QColor(palette::kFrost));
+  colors.setColor(QPalette::Highlight, QColor(palette::kBlueDeep));
+  colors.setColor(QPalette::HighlightedText, Qt::white);
+  colors.setColor(QPalette::Link, QColor(palette::kBlueBright));
+  colors.setColor(QPalette::ToolTipBase, QColor(palette::kPanel));
+  return colors;
 }
 
 // What Designer has said of LAYOUT: its margins, then its spaces across and down.
@@ -160,7 +160,7 @@ void ZoomLayouts(const QWidget& form) {
 void DressApplication(double zoom) {
   zoom_now = zoom;
   QApplication::setStyle(QStyleFactory::create("Fusion"));
-  QApplication::setPalette(Colours());
+  QApplication::setPalette(Colors());
   UseShippedFonts(zoom);
   qApp->setStyleSheet(StyleSheet());
 }

@@ -6,11 +6,11 @@ class QWidget;
 
 namespace frostmark {
 
-// The style sheet of the whole program, with the palette's colours in it.
+// The style sheet of the whole program, with the palette's colors in it.
 QString StyleSheet();
 
-// Gives the application its fonts, colours and style sheet. ZOOM is the size of its letters, and so
-// of all that is measured in letters, against those that the user's own font comes to.
+// Gives the application its fonts, colors and style sheet. ZOOM is the size of its letters, and so
+// of all that is measured in letters, against those of the user's own font.
 void DressApplication(double zoom = 1);
 // What it was last dressed with.
 double Zoom();

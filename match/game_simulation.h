@@ -43,8 +43,8 @@ class GameSimulation {
   void TurnOver();
 
   Program& program_;
-  // The memory of the last face-off's two centres, so that the next one allocates none.
-  std::array<std::string, 2> spare_centres_;
+  // The memory of the last face-off's two centers, so that the next one allocates none.
+  std::array<std::string, 2> spare_centers_;
 };
 
 }  // namespace frostmark

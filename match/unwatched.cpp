@@ -133,19 +133,19 @@ void GameSimulation::FaceOff() {
   const RecordList& line1 = program_.franchise.Line1Stats;
   const RecordList& line2 = program_.franchise.Line2Stats;
   // The records themselves and not their places: a handler may clear the lines meanwhile.
-  std::string centre1 = std::exchange(spare_centres_[0], {});
-  std::string centre2 = std::exchange(spare_centres_[1], {});
-  centre1.clear();
-  centre2.clear();
-  FindPlayer(program_.front_end, line1, "CF", centre1);
-  FindPlayer(program_.front_end, line2, "CF", centre2);
-  // A line without a centre sends its right forward; one without either sends nobody.
-  if (centre1.empty()) FindPlayer(program_.front_end, line1, "RF", centre1);
-  if (centre2.empty()) FindPlayer(program_.front_end, line2, "RF", centre2);
+  std::string center1 = std::exchange(spare_centers_[0], {});
+  std::string center2 = std::exchange(spare_centers_[1], {});
+  center1.clear();
+  center2.clear();
+  FindPlayer(program_.front_end, line1, "CF", center1);
+  FindPlayer(program_.front_end, line2, "CF", center2);
+  // A line without a center sends its right forward; one without either sends nobody.
+  if (center1.empty()) FindPlayer(program_.front_end, line1, "RF", center1);
+  if (center2.empty()) FindPlayer(program_.front_end, line2, "RF", center2);
   const bool first_wins = program_.ordvik.RollUpTo(kToss) == 1;
-  PuckCarrier = first_wins ? centre1 : centre2;
-  spare_centres_[0] = std::move(centre1);
-  spare_centres_[1] = std::move(centre2);
+  PuckCarrier = first_wins ? center1 : center2;
+  spare_centers_[0] = std::move(center1);
+  spare_centers_[1] = std::move(center2);
   PuckTeam = first_wins ? 1 : 2;
   LoadIceLists();
   // PuckPosition stays on purpose: the first pass starts from where play last stood.

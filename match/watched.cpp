@@ -3,7 +3,7 @@
 #include "records/lines/play_line.h"
 
 // The watched match machine. It rolls as the unwatched one does, but stands on this screen's own
-// lists and score, tells what happens, and treats an empty centre its own way.
+// lists and score, tells what happens, and treats an empty center its own way.
 
 namespace frostmark {
 namespace {
@@ -19,7 +19,7 @@ void Report(Game& game, const PlayLine& line) { game.Events.AddItem(FormatPlayLi
 
 // The last of LINE at "CF". The record itself and not its place: a handler may clear the line
 // meanwhile.
-std::string FindCentre(UiQueue& queue, const RecordList& line) {
+std::string FindCenter(UiQueue& queue, const RecordList& line) {
   std::string found;
   const int count = line.ListCount();
   for (int i = 0; i < count; ++i) {
@@ -99,12 +99,12 @@ void Game::PlayStep() {
   PassesLeft -= 1;
 }
 
-// No right forward stands in for a missing centre here: that team's centre is nobody.
+// No right forward stands in for a missing center here: that team's center is nobody.
 void Game::FaceOff() {
-  const std::string centre1 = FindCentre(program_.front_end, Line1Stats);
-  const std::string centre2 = FindCentre(program_.front_end, Line2Stats);
+  const std::string center1 = FindCenter(program_.front_end, Line1Stats);
+  const std::string center2 = FindCenter(program_.front_end, Line2Stats);
   const bool first_wins = program_.ordvik.RollUpTo(kToss) == 1;
-  PuckCarrier = first_wins ? centre1 : centre2;
+  PuckCarrier = first_wins ? center1 : center2;
   PuckTeam = first_wins ? 1 : 2;
   LoadIceLists();
   Report(*this, {Play::kFaceOff, NameOf(PuckCarrier)});

@@ -32,7 +32,7 @@ std::string NameOf(std::string_view true_path) {
   return name;
 }
 
-// A name that begins with a zero byte lies in the space of names that is no folder.
+// A name that begins with a zero byte lies in the space of names that is not a folder.
 struct Address {
   explicit Address(std::string_view name) {
     to.sun_family = AF_UNIX;

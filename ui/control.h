@@ -48,7 +48,7 @@ enum class ControlKind {
   kTimer,
 };
 
-// What a control, or a screen, is where a person does not see its place and its colours: a screen
+// What a control, or a screen, is where a person does not see its place and its colors: a screen
 // reader says the words, with the caption after them where that is a value of its own; text names
 // by them what can be done. A control whose caption says it all needs none.
 struct Called {

@@ -4,7 +4,7 @@
 
 namespace frostmark {
 
-// The names of players, in capitals, most common first: the given names of men and the family names
+// The names of players, in capitals, most common first: given names and family names
 // of the United States census of 1990. The last family name is cut short, and stays so.
 std::span<const char* const> GivenNames();   // 1219
 std::span<const char* const> FamilyNames();  // 3653

@@ -24,7 +24,7 @@ class ParagraphDelegate : public RowDelegate {
   struct Sentence {
     std::vector<row::Run> runs;
     QColor color;
-    bool small = false;  // in small letters and close to its neighbours
+    bool small = false;  // in small letters and close to its neighbbors
   };
 
   // Takes the text of OPTION apart. Without runs the row is drawn as plain text.

@@ -12,7 +12,7 @@
 namespace frostmark {
 namespace {
 
-QColor ColourOf(Play play) {
+QColor ColorOf(Play play) {
   switch (play) {
     case Play::kGoal:
       return palette::kGold;
@@ -35,18 +35,18 @@ QColor ColourOf(Play play) {
   return palette::kEdge;
 }
 
-// The sign of PLAY in the circle BOUNDS, with the pen of its colour.
+// The sign of PLAY in the circle BOUNDS, with the pen of its color.
 void PaintPlay(QPainter& painter, const QRectF& bounds, Play play) {
-  const QColor colour = ColourOf(play);
+  const QColor color = ColorOf(play);
   const double r = bounds.width() / 2;
   const QPointF at = bounds.center();
-  painter.setPen(QPen(colour, r * 0.22, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.setPen(QPen(color, r * 0.22, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   painter.setBrush(Qt::NoBrush);
   switch (play) {
     case Play::kGoal: {  // the lamp behind the goal
       QRadialGradient lamp(at, r);
       lamp.setColorAt(0, Qt::white);
-      lamp.setColorAt(0.45, colour);
+      lamp.setColorAt(0.45, color);
       lamp.setColorAt(1, QColor(palette::kRed));
       painter.setPen(Qt::NoPen);
       painter.setBrush(lamp);
@@ -55,7 +55,7 @@ void PaintPlay(QPainter& painter, const QRectF& bounds, Play play) {
     }
     case Play::kFaceOff:  // the dot in its circle
       painter.drawEllipse(at, r * 0.8, r * 0.8);
-      painter.setBrush(colour);
+      painter.setBrush(color);
       painter.drawEllipse(at, r * 0.2, r * 0.2);
       break;
     case Play::kSave: {  // a shield
@@ -84,7 +84,7 @@ void PaintPlay(QPainter& painter, const QRectF& bounds, Play play) {
     case Play::kMatchEnd:
     case Play::kWin:
     case Play::kTie:
-      painter.setBrush(colour);
+      painter.setBrush(color);
       painter.drawEllipse(at, r * 0.22, r * 0.22);
       break;
   }
@@ -130,7 +130,7 @@ PlayDelegate::Sentence PlayDelegate::SentenceOf(const QStyleOptionViewItem& opti
   const bool selected = option.state & QStyle::State_Selected;
   return {{{option.text, loud}},
           selected               ? row::TextColor(option)
-          : *play == Play::kGoal ? ColourOf(*play)
+          : *play == Play::kGoal ? ColorOf(*play)
           : quiet                ? row::QuietColor(option)
                                  : row::TextColor(option),
           IsPass(*play)};

@@ -5,7 +5,7 @@
 
 namespace frostmark {
 
-void PaintCup(QPainter& painter, const QRectF& rect, const QColor& colour) {
+void PaintCup(QPainter& painter, const QRectF& rect, const QColor& color) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.translate(rect.topLeft());
@@ -22,8 +22,8 @@ void PaintCup(QPainter& painter, const QRectF& rect, const QColor& colour) {
   cup.lineTo(4.4, 7.8);
   cup.lineTo(4.4, 6.0);
   cup.cubicTo(3.4, 5.6, 2.4, 4.2, 2.4, 0.8);
-  painter.fillPath(cup, colour);
-  painter.setPen(QPen(colour, 0.8));
+  painter.fillPath(cup, color);
+  painter.setPen(QPen(color, 0.8));
   painter.setBrush(Qt::NoBrush);
   painter.drawArc(QRectF(0.6, 1.2, 3.4, 3.4), 90 * 16, 190 * 16);
   painter.drawArc(QRectF(6.0, 1.2, 3.4, 3.4), 90 * 16, -190 * 16);

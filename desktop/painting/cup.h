@@ -7,7 +7,7 @@ class QPainter;
 
 namespace frostmark {
 
-// Draws a cup, small and flat, in COLOUR into RECT.
-void PaintCup(QPainter& painter, const QRectF& rect, const QColor& colour);
+// Draws a cup, small and flat, in COLOR into RECT.
+void PaintCup(QPainter& painter, const QRectF& rect, const QColor& color);
 
 }  // namespace frostmark

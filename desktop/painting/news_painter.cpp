@@ -11,7 +11,7 @@
 namespace frostmark {
 namespace {
 
-QColor ColourOf(Fortune fortune) {
+QColor ColorOf(Fortune fortune) {
   switch (fortune) {
     case Fortune::kWon:
       return palette::kGreen;
@@ -44,7 +44,7 @@ void PaintFortune(QPainter& painter, const QRectF& rect, Fortune fortune) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(ColourOf(fortune));
+  painter.setBrush(ColorOf(fortune));
   painter.drawEllipse(rect);
   QFont letter = painter.font();
   letter.setPixelSize(std::max(1, qRound(rect.height() * 0.74)));

@@ -21,7 +21,7 @@ std::optional<Fortune> FortuneOf(const NewsLine& news, std::string_view team);
 // The letter of FORTUNE: W, L or T.
 QString LetterOf(Fortune fortune);
 
-// Draws FORTUNE into RECT, a square: its letter in a disc of its colour.
+// Draws FORTUNE into RECT, a square: its letter in a disc of its color.
 void PaintFortune(QPainter& painter, const QRectF& rect, Fortune fortune);
 
 // Draws the result of NEWS into RECT in the painter's font: the teams on both sides of the score,

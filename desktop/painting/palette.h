@@ -4,7 +4,7 @@
 
 namespace frostmark::palette {
 
-// Every colour of the desktop: night over an arena, its ice, the red and blue lines on it. The
+// Every color of the desktop: night over an arena, its ice, the red and blue lines on it. The
 // style sheet names them as well: `@panel` there is kPanel here.
 inline constexpr QRgb kDeep = 0xFF071224;        // behind everything, wells of lists and bars
 inline constexpr QRgb kNight = 0xFF0C1C36;       // the ground of a window

@@ -14,7 +14,7 @@ namespace frostmark {
 inline constexpr int kBarStart = 40;
 inline constexpr int kBarEnd = 99;
 
-// The colour of a rating: four steps from dull blue to ice white.
+// The color of a rating: four steps from dull blue to ice white.
 QColor RatingColor(int rating);
 
 // How much of its bar RATING fills, 0 to 1.

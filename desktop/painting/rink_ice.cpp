@@ -17,9 +17,9 @@ constexpr double kNeutralDot = 80;  // to those beside the blue lines
 constexpr double kMiddle = kWidth / 2;
 
 const QColor kRedLine(palette::kRed);
-const QColor kBlueLineColour(palette::kBlue);
+const QColor kBlueLineColor(palette::kBlue);
 
-QPen Line(const QColor& colour, double feet) { return {colour, feet, Qt::SolidLine, Qt::FlatCap}; }
+QPen Line(const QColor& color, double feet) { return {color, feet, Qt::SolidLine, Qt::FlatCap}; }
 
 QPainterPath Outline() {
   QPainterPath outline;
@@ -27,9 +27,9 @@ QPainterPath Outline() {
   return outline;
 }
 
-void PaintDot(QPainter& painter, const QPointF& at, const QColor& colour) {
+void PaintDot(QPainter& painter, const QPointF& at, const QColor& color) {
   painter.setPen(Qt::NoPen);
-  painter.setBrush(colour);
+  painter.setBrush(color);
   painter.drawEllipse(at, 1.3, 1.3);
 }
 
@@ -74,7 +74,7 @@ void PaintEnd(QPainter& painter) {
 }
 
 void PaintMiddle(QPainter& painter) {
-  painter.setPen(Line(kBlueLineColour, 1.5));
+  painter.setPen(Line(kBlueLineColor, 1.5));
   for (const double x : {kBlueLine, kLength - kBlueLine}) {
     painter.drawLine(QPointF(x, 0), QPointF(x, kWidth));
   }
@@ -84,9 +84,9 @@ void PaintMiddle(QPainter& painter) {
   painter.setPen(checks);
   painter.drawLine(QPointF(kLength / 2, 0), QPointF(kLength / 2, kWidth));
   painter.setBrush(Qt::NoBrush);
-  painter.setPen(Line(kBlueLineColour, 0.6));
+  painter.setPen(Line(kBlueLineColor, 0.6));
   painter.drawEllipse(QPointF(kLength / 2, kMiddle), kCircle, kCircle);
-  PaintDot(painter, {kLength / 2, kMiddle}, kBlueLineColour);
+  PaintDot(painter, {kLength / 2, kMiddle}, kBlueLineColor);
 }
 
 }  // namespace

@@ -24,7 +24,7 @@ double Margin(const QFontMetrics& metrics);
 // the focus, and leaves PAINTER in the row's font.
 void PaintGround(QPainter& painter, const QStyleOptionViewItem& option);
 
-// The colour of plain text on the row, and of text that stands back.
+// The color of plain text on the row, and of text that stands back.
 QColor TextColor(const QStyleOptionViewItem& option);
 QColor QuietColor(const QStyleOptionViewItem& option);
 
@@ -52,7 +52,7 @@ struct Run {
   bool bold = false;
 };
 
-// Draws RUNS one after the other into RECT, centred in height, broken between words onto as many
+// Draws RUNS one after the other into RECT, centerd in height, broken between words onto as many
 // lines as its width asks for.
 void PaintParagraph(QPainter& painter, const QRectF& rect, const std::vector<Run>& runs,
                     const QFont& font, const QColor& color);

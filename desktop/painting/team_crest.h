@@ -9,7 +9,7 @@ class QPainter;
 namespace frostmark {
 
 // How a team's crest looks. It follows from the name alone, on every machine, so that a team is
-// known again wherever it stands. Of the two colours one is light and one is dark: letters in the
+// known again wherever it stands. Of the two colors one is light and one is dark: letters in the
 // one are legible on the other, and the light one stands out from every ground of the desktop.
 struct TeamCrest {
   static constexpr int kShapes = 5;

@@ -47,7 +47,7 @@ void DressStandings(const Franchise& screen, ScreenForm& form) {
 }
 
 // Left and Right move the selected player to the line on that side, as the arrow between the lines
-// does. The selection goes on to the neighbour, so that one player after the other can go.
+// does. The selection goes on to the neighbbor, so that one player after the other can go.
 class RosterKeys : public QObject {
  public:
   RosterKeys(ListView& line, Qt::Key key, QAbstractButton& arrow)

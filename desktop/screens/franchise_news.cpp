@@ -43,7 +43,7 @@ QString NewestOf(const RecordList& news, const QString& team) {
   return {};
 }
 
-// Lays a list out again whenever it comes to be seen: who plays in which league, and so where the
+// Lays a list out again whenever it is seen: who plays in which league, and so where the
 // heads stand, changes without the list.
 class LayoutAtShow : public QObject {
  public:

@@ -13,7 +13,7 @@ class Screen;
 // The empty text before a franchise has begun, which no team of a list is called.
 std::function<QString()> OwnTeam(const Screen& screen);
 
-// Writes LABEL in the colour of the user's own team, or in its ordinary one.
+// Writes LABEL in the color of the user's own team, or in its ordinary one.
 void ShowOwn(QLabel& label, bool own);
 
 }  // namespace frostmark

@@ -7,7 +7,7 @@
 namespace frostmark {
 
 // A label with a team's name and what the end of the season brings it: a mark before the name, the
-// name in the mark's colour. The user's own team stands on a golden ground.
+// name in the mark's color. The user's own team stands on a golden ground.
 class FateLabel : public QLabel {
   Q_OBJECT
 

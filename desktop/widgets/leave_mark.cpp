@@ -11,12 +11,12 @@ constexpr double kSize = 1.5;  // in lines of text
 
 // The sign of a power switch: a cross would be taken for the one that leaves a single screen.
 void DrawSwitch(QPainter& painter, const QRectF& area) {
-  const QPointF centre = area.center();
+  const QPointF center = area.center();
   const double r = area.width() * 0.24;
   constexpr int kGap = 40;  // degrees to each side of the stroke
-  painter.drawArc(QRectF(centre.x() - r, centre.y() - r, 2 * r, 2 * r), (90 + kGap) * 16,
+  painter.drawArc(QRectF(center.x() - r, center.y() - r, 2 * r, 2 * r), (90 + kGap) * 16,
                   (360 - 2 * kGap) * 16);
-  painter.drawLine(centre - QPointF(0, r * 1.25), centre - QPointF(0, r * 0.25));
+  painter.drawLine(center - QPointF(0, r * 1.25), center - QPointF(0, r * 0.25));
 }
 
 }  // namespace

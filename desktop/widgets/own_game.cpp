@@ -42,9 +42,9 @@ void OwnGame::paintEvent(QPaintEvent* /*event*/) {
   QFont large = font();
   large.setPixelSize(qRound(QFontInfo(large).pixelSize() * 1.2));
   painter.setFont(large);
-  const QColor text_colour(palette::kIce);
-  PaintNews(painter, QRectF(rect()), *news, FortuneOf(*news, own_team_.toStdString()), text_colour,
-            text_colour);
+  const QColor text_color(palette::kIce);
+  PaintNews(painter, QRectF(rect()), *news, FortuneOf(*news, own_team_.toStdString()), text_color,
+            text_color);
 }
 
 }  // namespace frostmark

@@ -52,17 +52,17 @@ int ProgressMarks::CurrentStep() const {
 }
 
 void ProgressMarks::PaintMark(QPainter& painter, const QRectF& rect, int step, int current) const {
-  const bool behind = step < current;
+  const bool done = step < current;
   const bool here = step == current;
-  painter.setPen(QPen(QColor(here     ? palette::kIce
-                             : behind ? palette::kBlue
-                                      : palette::kEdge),
+  painter.setPen(QPen(QColor(here   ? palette::kIce
+                             : done ? palette::kBlue
+                                    : palette::kEdge),
                       rect.width() * (here ? 0.09 : 0.06)));
-  painter.setBrush(here     ? QColor(palette::kRed)
-                   : behind ? QColor(palette::kBlue).darker(170)
-                            : QColor(palette::kDeep));
+  painter.setBrush(here   ? QColor(palette::kRed)
+                   : done ? QColor(palette::kBlue).darker(170)
+                          : QColor(palette::kDeep));
   painter.drawEllipse(rect.adjusted(1, 1, -1, -1));
-  painter.setPen(QColor(here || behind ? palette::kIce : palette::kFaint));
+  painter.setPen(QColor(here || done ? palette::kIce : palette::kFaint));
   if (step < steps_.size()) {
     painter.drawText(rect, Qt::AlignCenter, steps_[step].section(' ', -1));
   } else {

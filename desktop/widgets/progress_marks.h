@@ -6,7 +6,7 @@
 namespace frostmark {
 
 // A label whose text is one of a fixed row of steps ("Week 1" to "Week 10"). It shows the text and,
-// below it, a mark for every step: those behind, the one it stands at, those to come. A mark bears
+// below it, a mark for every step: those done, the one it stands at, those to come. A mark bears
 // the last word of its step. Where there is a text for "finished", a cup is the last mark.
 class ProgressMarks : public QLabel {
   Q_OBJECT
@@ -25,7 +25,7 @@ class ProgressMarks : public QLabel {
  private:
   double MarkSize() const;
   QFont MarkFont() const;
-  // The step that the text names; behind the last one when it is the text for "finished", -1 when
+  // The step that the text names; past the last one when it is the text for "finished", -1 when
   // it is neither.
   int CurrentStep() const;
   int MarkCount() const;

@@ -11,7 +11,7 @@ namespace frostmark {
 
 namespace {
 
-// The years that the bar of an age runs through: a player's first season and about his last.
+// The years that the bar of an age runs through: a player's first season and about their last.
 constexpr double kYoungest = 17;
 constexpr double kOldest = 40;
 

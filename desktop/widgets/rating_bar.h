@@ -4,8 +4,8 @@
 
 namespace frostmark {
 
-// A label that shows a rating: a bar of it and its figure beside the bar. A text that is no number
-// is shown without a bar.
+// A label that shows a rating: a bar of it and its figure beside the bar. A text that is not a
+// number is shown without a bar.
 //
 // Mirrored, the figure stands at the left and the bar grows from its right end, so that two teams
 // can face each other. A bar of scale "age" measures years instead of a rating.

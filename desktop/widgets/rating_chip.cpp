@@ -13,8 +13,8 @@ constexpr double kLift = 0.2;  // room around the disc to lift in, in lines of t
 
 }  // namespace
 
-void RatingChip::SetColour(const QColor& colour) {
-  colour_ = colour;
+void RatingChip::SetColor(const QColor& color) {
+  color_ = color;
   update();
 }
 
@@ -54,8 +54,8 @@ void RatingChip::paintEvent(QPaintEvent* /*event*/) {
     disc.translate(0, -lift / 2);
   }
   QLinearGradient jersey(disc.topLeft(), disc.bottomLeft());
-  jersey.setColorAt(0, colour_.lighter(115));
-  jersey.setColorAt(1, colour_.darker(130));
+  jersey.setColorAt(0, color_.lighter(115));
+  jersey.setColorAt(1, color_.darker(130));
   painter.setBrush(jersey);
   painter.setPen(
       QPen(carrier_ ? QColor(palette::kGold) : QColor(Qt::white), carrier_ ? edge * 1.9 : edge));

@@ -12,12 +12,12 @@ class RatingChip : public QLabel {
  public:
   explicit RatingChip(QWidget* parent = nullptr) : QLabel(parent) {}
 
-  void SetColour(const QColor& colour);
+  void SetColor(const QColor& color);
   // Whether they have the puck.
   void SetCarrier(bool carrier);
   bool carrier() const { return carrier_; }
 
-  // How far the disc reaches from the chip's centre, in pixels, when it lies on the ice.
+  // How far the disc reaches from the chip's center, in pixels, when it lies on the ice.
   double Radius() const;
 
   QSize sizeHint() const override;
@@ -29,7 +29,7 @@ class RatingChip : public QLabel {
  private:
   QFont PosterFont() const;
 
-  QColor colour_ = Qt::gray;
+  QColor color_ = Qt::gray;
   bool carrier_ = false;
 };
 

@@ -38,15 +38,15 @@ constexpr std::chrono::milliseconds kLampTime{1200};
 constexpr std::chrono::milliseconds kShotTime{450};
 // A little less than the 100 ms of a step, so that the puck is there before it goes on.
 constexpr std::chrono::milliseconds kGlideTime{90};
-constexpr QPointF kCentreSpot(rink::kLength / 2, rink::kWidth / 2);
-constexpr double kNameWidth = 25;      // between the centres there is no more room
+constexpr QPointF kCenterSpot(rink::kLength / 2, rink::kWidth / 2);
+constexpr double kNameWidth = 25;      // between the centers there is no more room
 constexpr double kNameLetters = 0.74;  // of plain text
 
 QColor ColorOf(int team) { return team == 1 ? palette::kBlueDeep : palette::kRedDeep; }
 
 }  // namespace
 
-RinkView::RinkView(QWidget* parent) : QWidget(parent), shown_(kCentreSpot) {
+RinkView::RinkView(QWidget* parent) : QWidget(parent), shown_(kCenterSpot) {
   lamp_.setSingleShot(true);
   lamp_.setInterval(kLampTime);
   connect(&lamp_, &QTimer::timeout, this, &RinkView::PutLampOut);
@@ -86,7 +86,7 @@ void RinkView::SetPuck(int team, const QString& position) {
   if (scored_ != 0) {
     scored_ = 0;
     carrier_ = nullptr;  // it comes from the face-off
-    DropPuck(kCentreSpot);
+    DropPuck(kCenterSpot);
     update();
   }
   if (spot == carrier_) return;
@@ -158,7 +158,7 @@ void RinkView::Reset() {
   scored_ = 0;
   shot_of_ = 0;
   glide_.stop();
-  DropPuck(kCentreSpot);
+  DropPuck(kCenterSpot);
   MarkCarrier();
   PutLampOut();
 }
@@ -184,7 +184,7 @@ void RinkView::PlaceChips() {
   for (const Spot& spot : kSpots) {
     auto* chip = findChild<RatingChip*>(QLatin1String(spot.label));
     if (chip == nullptr) continue;
-    chip->SetColour(ColorOf(spot.team));
+    chip->SetColor(ColorOf(spot.team));
     QRect place(QPoint(), chip->sizeHint());
     place.moveCenter(feet.map(spot.at).toPoint());
     chip->setGeometry(place);
@@ -200,7 +200,7 @@ QRectF RinkView::Ice() const {
 QPointF RinkView::Puck() const { return scored_ != 0 ? rink::GoalOf(scored_) : PuckAt(carrier_); }
 
 QPointF RinkView::PuckAt(const Spot* spot) const {
-  if (spot == nullptr) return kCentreSpot;
+  if (spot == nullptr) return kCenterSpot;
   // On the stick in front of the chip, clear of the name under it.
   const double chip = fontMetrics().height() / rink::Feet(size()).m11();
   const double ahead = spot->team == 1 ? 1 : -1;

@@ -50,14 +50,14 @@ QString Sentence(const SeasonFate::Season& season) {
 }
 
 // In one line, as large as SIZE allows and LINE has room for.
-void Write(QPainter& painter, const QRectF& line, QFont font, double size, const QColor& colour,
+void Write(QPainter& painter, const QRectF& line, QFont font, double size, const QColor& color,
            const QString& text) {
   font.setPixelSize(std::max(8, qRound(size)));
   while (font.pixelSize() > 8 && QFontMetricsF(font).horizontalAdvance(text) > line.width()) {
     font.setPixelSize(font.pixelSize() - 1);
   }
   painter.setFont(font);
-  painter.setPen(colour);
+  painter.setPen(color);
   painter.drawText(line, static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter) | Qt::TextSingleLine,
                    text);
 }
@@ -88,24 +88,24 @@ QSize SeasonFate::sizeHint() const {
   return (QSizeF(kWidth, kHeight) * fontMetrics().height()).toSize();
 }
 
-// From the old league to the new one, with the place in the old one behind.
+// From the old league to the new one, with the place in the old one after them.
 void SeasonFate::PaintMove(QPainter& painter, const QRectF& line) const {
   QRectF disc(line.topLeft(), QSizeF(line.height(), line.height()));
   PaintLeague(painter, disc, season_.from, QColor(palette::kEdge));
   double end = disc.right();
   if (season_.from != season_.to) {
-    const QColor colour = FateColor(season_.fate);
+    const QColor color = FateColor(season_.fate);
     const double gap = disc.width() * 0.35;
     const double tip = disc.right() + gap + disc.width() * 0.9;
     const double head = disc.width() * 0.22;
     const double middle = disc.center().y();
-    painter.setPen(QPen(colour, disc.width() * 0.1, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(color, disc.width() * 0.1, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setBrush(Qt::NoBrush);
     painter.drawLine(QPointF(disc.right() + gap, middle), QPointF(tip, middle));
     painter.drawPolyline(
         QPolygonF({{tip - head, middle - head}, {tip, middle}, {tip - head, middle + head}}));
     disc.moveLeft(tip + gap);
-    PaintLeague(painter, disc, season_.to, colour);
+    PaintLeague(painter, disc, season_.to, color);
     end = disc.right();
   }
   const double gap = disc.width() * 0.45;

@@ -16,8 +16,8 @@ namespace {
 constexpr double kHorizon = 0.46;  // of the height: where the ice meets the boards
 constexpr int kCorner = 13;        // just inside the window's own edge
 
-QColor Glass(QRgb colour, int alpha) {
-  QColor glass(colour);
+QColor Glass(QRgb color, int alpha) {
+  QColor glass(color);
   glass.setAlpha(alpha);
   return glass;
 }
@@ -127,7 +127,7 @@ QPainterPath Ring(const Perspective& ice, double across, double depth, double ra
   return ring;
 }
 
-// The mark in the centre circle: six arms of frost.
+// The mark in the center circle: six arms of frost.
 void DrawFrost(QPainter& painter, const Perspective& ice, double line) {
   constexpr double kAcross = 0;
   constexpr double kDepth = 0.25;
@@ -167,11 +167,11 @@ void DrawTraces(QPainter& painter, const QRectF& area) {
     const QPointF from = place(trace.x, trace.y);
     const QPointF to = place(trace.to_x, trace.to_y);
     const QPointF by = place((trace.x + trace.to_x) / 2, (trace.y + trace.to_y) / 2 + trace.bend);
-    const auto cut = [&](const QPointF& upper, const QPointF& lower, const QColor& colour) {
+    const auto cut = [&](const QPointF& upper, const QPointF& lower, const QColor& color) {
       QPainterPath path(from);
       path.quadTo(upper, to);
       path.quadTo(lower, from);
-      painter.setBrush(colour);
+      painter.setBrush(color);
       painter.drawPath(path);
     };
     cut(by, by + depth, QColor(0x6F, 0x97, 0xC4, 150));
@@ -240,9 +240,9 @@ void DrawStick(QPainter& painter, const QRectF& area) {
   const QPointF toe = place(0.79, 0.888);
   const QPointF grip = place(1.085, 0.50);
   painter.setBrush(Qt::NoBrush);
-  const auto stroke = [&painter](const QPainterPath& path, const QColor& colour, double wide,
+  const auto stroke = [&painter](const QPainterPath& path, const QColor& color, double wide,
                                  Qt::PenCapStyle cap) {
-    painter.setPen(QPen(colour, wide, Qt::SolidLine, cap, Qt::RoundJoin));
+    painter.setPen(QPen(color, wide, Qt::SolidLine, cap, Qt::RoundJoin));
     painter.drawPath(path);
   };
   QPainterPath whole(grip);
@@ -301,7 +301,7 @@ void DrawBoards(QPainter& painter, const QRectF& area) {
                    QColor(palette::kGold));
 }
 
-// The puck on the centre spot with its shadow.
+// The puck on the center spot with its shadow.
 void DrawPuck(QPainter& painter, const QRectF& area) {
   const QPointF at = Perspective(area).At(0.14, 0.1);
   const double r = area.height() * 0.062;

@@ -10,15 +10,15 @@
 namespace frostmark {
 namespace {
 
-void PaintSide(QPainter& painter, const QRectF& side, const QString& team, QRgb colour,
+void PaintSide(QPainter& painter, const QRectF& side, const QString& team, QRgb color,
                const QFont& face) {
   const double line = QFontMetricsF(face).height();
   const double height = side.height() - line * 1.3;
   QRectF crest(0, side.top(), height * kCrestBreadth, height);
   crest.moveCenter(QPointF(side.center().x(), crest.center().y()));
-  // The side is a light behind the crest, whose colours are the team's own.
+  // The side is a light behind the crest, whose colors are the team's own.
   QRadialGradient light(crest.center(), height * 0.5);
-  QColor glow(colour);
+  QColor glow(color);
   glow.setAlpha(210);
   light.setColorAt(0.7, glow);
   glow.setAlpha(0);

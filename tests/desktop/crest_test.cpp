@@ -15,12 +15,12 @@
 namespace frostmark::test {
 namespace {
 
-double Luminance(QRgb colour) {
+double Luminance(QRgb color) {
   const auto part = [](int value) {
     const double share = value / 255.0;
     return share <= 0.03928 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
   };
-  return 0.2126 * part(qRed(colour)) + 0.7152 * part(qGreen(colour)) + 0.0722 * part(qBlue(colour));
+  return 0.2126 * part(qRed(color)) + 0.7152 * part(qGreen(color)) + 0.0722 * part(qBlue(color));
 }
 
 double Contrast(QRgb one, QRgb other) {
@@ -41,10 +41,10 @@ QImage PictureOf(const QString& team) {
   return picture;
 }
 
-int Count(const QImage& picture, const QColor& colour) {
+int Count(const QImage& picture, const QColor& color) {
   int count = 0;
   for (int y = 0; y < picture.height(); ++y) {
-    for (int x = 0; x < picture.width(); ++x) count += picture.pixel(x, y) == colour.rgb();
+    for (int x = 0; x < picture.width(); ++x) count += picture.pixel(x, y) == color.rgb();
   }
   return count;
 }
@@ -61,7 +61,7 @@ TEST(Crests, FollowFromTheNameAlone) {
   EXPECT_EQ(crest.ornament.name(), "#ffa9b8");
 }
 
-TEST(Crests, TheirColoursStandApartFromEachOtherAndFromEveryGround) {
+TEST(Crests, TheirColorsStandApartFromEachOtherAndFromEveryGround) {
   QSet<int> shapes;
   QSet<int> patterns;
   QSet<QRgb> fields;
@@ -98,7 +98,7 @@ TEST(Crests, TeamsOfAWorldCanBeToldApart) {
   EXPECT_LE(twins, 1);
 }
 
-TEST(Crests, ShowBothColoursAndLetters) {
+TEST(Crests, ShowBothColorsAndLetters) {
   for (int i = 0; i < 60; ++i) {
     const TeamCrest crest = CrestOf(Team(i));
     const QImage picture = PictureOf(Team(i));

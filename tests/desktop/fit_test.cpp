@@ -74,7 +74,7 @@ TEST_P(Fit, NoTextIsCutOnAnyPageOfAnyScreen) {
   }
 }
 
-TEST_P(Fit, NeighboursDoNotOverlap) {
+TEST_P(Fit, NeighbborsDoNotOverlap) {
   Program& program = game_.program();
   program.startup.Frame1.Show();
   for (Screen* screen : program.screens.All()) {

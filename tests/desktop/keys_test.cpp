@@ -198,7 +198,7 @@ class RosterByKeys : public testing::Test {
   WindowGame game_;
 };
 
-TEST_F(RosterByKeys, RightAndLeftMoveThePlayerAndGoOnToTheNeighbour) {
+TEST_F(RosterByKeys, RightAndLeftMoveThePlayerAndGoOnToTheNeighbbor) {
   auto& lead = game_.On<ListView>(franchise(), "MainRoster");
   auto& training = game_.On<ListView>(franchise(), "TrainingRoster");
   const std::string first = franchise().MainRoster.List(1);
@@ -215,7 +215,7 @@ TEST_F(RosterByKeys, RightAndLeftMoveThePlayerAndGoOnToTheNeighbour) {
   QTest::keyClick(&training, Qt::Key_Left);
   Settle();
   EXPECT_EQ(franchise().MainRoster.List(5), first);
-  // The last of its list: the one before is its neighbour.
+  // The last of its list: the one before is its neighbbor.
   EXPECT_EQ(franchise().TrainingRoster.ListIndex(), 4);
 }
 

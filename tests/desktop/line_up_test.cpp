@@ -54,11 +54,11 @@ class LineUp : public testing::Test {
     franchise().ClearRoster();
     Settle();
   }
-  int Coloured(QWidget& widget, QRgb colour) {
+  int Colored(QWidget& widget, QRgb color) {
     const QImage picture = widget.grab().toImage();
     int count = 0;
     for (int y = 0; y < picture.height(); ++y) {
-      for (int x = 0; x < picture.width(); ++x) count += picture.pixel(x, y) == colour ? 1 : 0;
+      for (int x = 0; x < picture.width(); ++x) count += picture.pixel(x, y) == color ? 1 : 0;
     }
     return count;
   }
@@ -68,15 +68,15 @@ class LineUp : public testing::Test {
 
 TEST_F(LineUp, TheBadgesTellWhichPositionsArePlayed) {
   EXPECT_EQ(badges().Shown(), (LineUpBadges::Counts{1, 1, 1, 1, 1, 1}));
-  EXPECT_EQ(Coloured(badges(), palette::kRedBright), 0);
+  EXPECT_EQ(Colored(badges(), palette::kRedBright), 0);
   MoveToTraining(0);
   EXPECT_EQ(badges().Shown(), (LineUpBadges::Counts{0, 1, 1, 1, 1, 1}));
-  EXPECT_GT(Coloured(badges(), palette::kRedBright), 0);
+  EXPECT_GT(Colored(badges(), palette::kRedBright), 0);
   EXPECT_TRUE(badges().accessibleName().contains("GO missing"));
-  EXPECT_EQ(Coloured(badges(), palette::kGold), 0);
+  EXPECT_EQ(Colored(badges(), palette::kGold), 0);
   MoveToLead(0);  // a second right defender: the first in training
   EXPECT_EQ(badges().Shown(), (LineUpBadges::Counts{0, 2, 1, 1, 1, 1}));
-  EXPECT_GT(Coloured(badges(), palette::kGold), 0);
+  EXPECT_GT(Colored(badges(), palette::kGold), 0);
   EXPECT_TRUE(badges().accessibleName().contains("RD 2"));
 }
 
@@ -103,7 +103,7 @@ TEST_F(LineUp, AnArrowStandsAtATraineeWhoIsBetter) {
   EXPECT_EQ(MarkOf("TrainingRoster", 2), Mark::kNone)
       << "there is no lead player to be better than";
   auto& list = On<ListView>("TrainingRoster");
-  EXPECT_GT(Coloured(*list.viewport(), palette::kGreen), 0);
+  EXPECT_GT(Colored(*list.viewport(), palette::kGreen), 0);
 }
 
 TEST_F(LineUp, TheCardShowsTheSelectedPlayer) {

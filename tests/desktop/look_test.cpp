@@ -38,15 +38,15 @@ namespace {
 
 constexpr double kForText = 4.5;
 constexpr double kForSigns = 3;
-// Large enough for the middle of a stroke to have its full colour.
+// Large enough for the middle of a stroke to have its full color.
 constexpr int kEnlarged = 3;
 
-double Luminance(QRgb colour) {
+double Luminance(QRgb color) {
   const auto part = [](int value) {
     const double share = value / 255.0;
     return share <= 0.03928 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
   };
-  return 0.2126 * part(qRed(colour)) + 0.7152 * part(qGreen(colour)) + 0.0722 * part(qBlue(colour));
+  return 0.2126 * part(qRed(color)) + 0.7152 * part(qGreen(color)) + 0.0722 * part(qBlue(color));
 }
 
 double Contrast(QRgb one, QRgb other) {
@@ -75,10 +75,10 @@ QRgb GroundOf(const QImage& picture) {
   }
   QRgb ground = 0;
   int most = 0;
-  for (auto colour = counts.cbegin(); colour != counts.cend(); ++colour) {
-    if (colour.value() > most) {
-      most = colour.value();
-      ground = colour.key();
+  for (auto color = counts.cbegin(); color != counts.cend(); ++color) {
+    if (color.value() > most) {
+      most = color.value();
+      ground = color.key();
     }
   }
   return ground;
@@ -94,8 +94,8 @@ double PalestWord(const QImage& picture, int gap) {
   for (int x = 0; x < picture.width(); ++x) {
     double column = 1;
     for (int y = 0; y < picture.height(); ++y) {
-      const QRgb colour = picture.pixel(x, y);
-      if (colour != ground) column = std::max(column, Contrast(colour, ground));
+      const QRgb color = picture.pixel(x, y);
+      if (color != ground) column = std::max(column, Contrast(color, ground));
     }
     if (column > 1.2) {
       word = std::max(word, column);
@@ -252,7 +252,7 @@ TEST_F(Look, EveryRowIsReadableInEveryState) {
   }
 }
 
-// A text is measured within its frame, which has colours of its own.
+// A text is measured within its frame, which has colors of its own.
 void ExpectReadable(QWidget& widget, const char* state, int border = 3) {
   Settle();
   EXPECT_GE(PalestWord(Inner(PictureOf(widget), border), 1000), kForText)
@@ -471,7 +471,7 @@ TEST_F(Look, EveryRatingOnTheIceIsReadable) {
   for (const QRgb jersey : {palette::kBlueDeep, palette::kRedDeep}) {
     auto& chip = Add(new RatingChip);
     chip.setText("88");
-    chip.SetColour(jersey);
+    chip.SetColor(jersey);
     chip.setFixedSize(chip.sizeHint());
     ShowWindow();
     // The ground is palest at its top, between the rim and the figures.

@@ -72,7 +72,7 @@ TEST_F(Title, ThereIsSomethingToBeSeenAllOverTheIce) {
       const QRect cell(ice.left() + ice.width() * column / kColumns,
                        ice.top() + ice.height() * row / kRows, ice.width() / kColumns,
                        ice.height() / kRows);
-      // Along a line the ice itself has one colour.
+      // Along a line the ice itself has one color.
       int edges = 0;
       for (int y = cell.top(); y < cell.bottom(); ++y) {
         for (int x = cell.left() + 1; x < cell.right(); ++x) {

@@ -189,8 +189,8 @@ TEST_F(WhatNow, AMarkedTabIsGoldWhereverItStands) {
     const QImage picture = tabs.tabBar()->grab(tabs.tabBar()->tabRect(tab)).toImage();
     for (int y = 0; y < picture.height(); ++y) {
       for (int x = 0; x < picture.width(); ++x) {
-        const QColor colour = picture.pixelColor(x, y);
-        if (colour.red() > 200 && colour.green() > 150 && colour.blue() < 120) return true;
+        const QColor color = picture.pixelColor(x, y);
+        if (color.red() > 200 && color.green() > 150 && color.blue() < 120) return true;
       }
     }
     return false;
@@ -213,7 +213,7 @@ TEST_F(WhatNow, AnEmptyListSaysWhy) {
   EXPECT_TRUE(note->text().startsWith("No games yet"));
   franchise().Alerts.AddItem("A B beat C D 2 to 1");
   EXPECT_FALSE(note->isVisible());
-  EXPECT_EQ(franchise().Alerts.ListCount(), 1) << "the note is no item";
+  EXPECT_EQ(franchise().Alerts.ListCount(), 1) << "the note is not an item";
 }
 
 TEST_F(WhatNow, AListThatIsRebuiltIsNotEmpty) {

@@ -46,7 +46,7 @@ TYPED_TEST(MatchMachineTest, AFaceOffIsATossAndOneToSixPasses) {
   EXPECT_EQ(ItemsOf(this->lists().DefList), Reversed(this->line1));
 }
 
-TYPED_TEST(MatchMachineTest, ACentreOnceFoundTakesThePuckThoughTheLinesAreClearedMeanwhile) {
+TYPED_TEST(MatchMachineTest, ACenterOnceFoundTakesThePuckThoughTheLinesAreClearedMeanwhile) {
   for (const int winner : {1, 2}) {
     this->LineUp(LeadLine(1), LeadLine(2));
     for (int yield = 1; yield < 12; ++yield) this->front_end().AtYield([] {});
@@ -127,7 +127,7 @@ TYPED_TEST(MatchMachineTest, ThenTheGoalieShootsWithTheirOwnShooting) {
   EXPECT_EQ(this->dice().Asked(), (Asked{2, 6, 2, 3, 2, 100, 2, 100}));
 }
 
-TYPED_TEST(MatchMachineTest, AFaceOffCentreCanBePassedToHimself) {
+TYPED_TEST(MatchMachineTest, AFaceOffCenterCanBePassedToHimself) {
   this->machine().PuckPosition = "RF";
   this->Play({1, 1, 1});
   EXPECT_EQ(this->machine().PuckPosition, "CF");
@@ -271,15 +271,15 @@ TYPED_TEST(MatchMachineTest, AGoalieWithThePuckPassesToADefenceman) {
 
 TYPED_TEST(MatchMachineTest, AShorterSecondLineLeavesEmptyPlacesAndStealsNothing) {
   const std::string goalie = this->line2[kGO];
-  const std::string centre = this->line2[kCF];
-  this->LineUp(this->line1, {goalie, centre});
+  const std::string center = this->line2[kCF];
+  this->LineUp(this->line1, {goalie, center});
   this->ShotOfTeam(1, {1, 80, /*defender*/ 1, 50, 85, 86});
   EXPECT_EQ(this->Goals(1), 1);
   this->Play({1, 3});
-  EXPECT_EQ(ItemsOf(this->lists().DefList), (Lines{"", "", "", "", centre, goalie}));
+  EXPECT_EQ(ItemsOf(this->lists().DefList), (Lines{"", "", "", "", center, goalie}));
   // With the short team on the puck both lists are short.
   this->Play({2, 3});
-  EXPECT_EQ(ItemsOf(this->lists().LineList), (Lines{centre, goalie}));
+  EXPECT_EQ(ItemsOf(this->lists().LineList), (Lines{center, goalie}));
   EXPECT_EQ(ItemsOf(this->lists().DefList), (Lines{this->line1[kRD], this->line1[kGO]}));
 }
 
@@ -331,7 +331,7 @@ TYPED_TEST(MatchMachineTest, EveryWalkYieldsForEachRecord) {
     this->Play(rolls);
     return this->front_end().Yields() - before;
   };
-  // Two centres and the ice lists; then the next step has set its lists when it asks.
+  // Two centers and the ice lists; then the next step has set its lists when it asks.
   constexpr int kFaceOff = 3 * kWalk;
   constexpr int kStep = TestFixture::kStepYields;
   EXPECT_EQ(yields({1, 4}), kFaceOff + kWalk);
@@ -344,7 +344,7 @@ TYPED_TEST(MatchMachineTest, EveryWalkYieldsForEachRecord) {
   EXPECT_EQ(yields({1, 1, 1, 1, 1, 1}), kToShot + 4 * kWalk + kStep + 3 * kWalk);
   EXPECT_EQ(yields({1, 1, 1, 1, 1, 1, 1, 1}),
             kToShot + 4 * kWalk + kStep + 4 * kWalk + kStep + kWalk);
-  // A goal: lists twice, defenders, goalies; the face-off asks after lists and centres.
+  // A goal: lists twice, defenders, goalies; the face-off asks after lists and centers.
   EXPECT_EQ(yields({1, 1, 1, 1, 1, 110, 1, 1, 105}), kToShot + 4 * kWalk + kStep + 3 * kWalk);
 }
 

@@ -428,8 +428,8 @@ TEST_F(GameScreenTest, TheCloseMarkPressedInsideAStepLeavesTheGameAndHarmsNothin
 // The walk that puts the lines on the ice goes on to its end, over players who are gone.
 TEST_F(GameScreenTest, TheCloseMarkPressedWhileTheLinesComeOnTheIceLeavesEmptyPlaces) {
   SetUpMatch();
-  constexpr int kYieldsOfTwoCentres = 12;
-  for (int yield = 0; yield < kYieldsOfTwoCentres + 1; ++yield) front_end().AtYield([] {});
+  constexpr int kYieldsOfTwoCenters = 12;
+  for (int yield = 0; yield < kYieldsOfTwoCenters + 1; ++yield) front_end().AtYield([] {});
   front_end().AtYield([this] {
     ASSERT_EQ(game().LineList.ListCount(), 2);
     game().Label5.Click();
@@ -439,7 +439,7 @@ TEST_F(GameScreenTest, TheCloseMarkPressedWhileTheLinesComeOnTheIceLeavesEmptyPl
   EXPECT_EQ(ItemsOf(game().DefList), Lines(4, ""));
 }
 
-TEST_F(GameScreenTest, TheCloseMarkPressedInsideAFaceOffLeavesTheCentreThatWasFound) {
+TEST_F(GameScreenTest, TheCloseMarkPressedInsideAFaceOffLeavesTheCenterThatWasFound) {
   SetUpMatch();
   for (int yield = 1; yield < 12; ++yield) front_end().AtYield([] {});
   front_end().AtYield([this] { game().Label5.Click(); });

@@ -120,7 +120,7 @@ TEST_F(UnwatchedMatchTest, NothingIsClearedBetweenGames) {
   EXPECT_EQ(HockeyNaming::GetField(machine().PuckCarrier, "Name"), "cf3");
 }
 
-TEST_F(UnwatchedMatchTest, ARightForwardStandsInForAMissingCentre) {
+TEST_F(UnwatchedMatchTest, ARightForwardStandsInForAMissingCenter) {
   LineUp(Without(line1, {"CF"}), Without(line2, {"CF"}));
   Play({1, 2});
   EXPECT_EQ(HockeyNaming::GetField(machine().PuckCarrier, "Name"), "rf1");

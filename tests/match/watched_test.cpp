@@ -2,7 +2,7 @@
 #include "tests/match/match_scene.h"
 
 // Where the watched machine differs from the unwatched one: what it reports, what it keeps as text,
-// and how it treats a line without a centre.
+// and how it treats a line without a center.
 
 namespace frostmark::test {
 namespace {
@@ -37,7 +37,7 @@ TEST_F(WatchedMatchTest, AFaceOffIsReportedBeforeThePassesAreRolled) {
   EXPECT_EQ(Reports(), Lines{"cf2 wins the face off!"});
 }
 
-TEST_F(WatchedMatchTest, NoRightForwardStandsInForAMissingCentre) {
+TEST_F(WatchedMatchTest, NoRightForwardStandsInForAMissingCenter) {
   line2.erase(line2.begin() + kCF);
   LineUp(line1, line2);
   const auto before = front_end().Yields();

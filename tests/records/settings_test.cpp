@@ -36,10 +36,10 @@ TEST_F(SettingsTest, WritesFileSectionAndKey) {
 }
 
 TEST_F(SettingsTest, KeepsAllOtherKeysAndSections) {
-  Fill("; mine\r\n[Other]\r\nTeam=x\r\n\r\n[Frostmark]\r\nColour=blue\r\n\r\n[Last]\r\nRank=y\r\n");
+  Fill("; mine\r\n[Other]\r\nTeam=x\r\n\r\n[Frostmark]\r\nColor=blue\r\n\r\n[Last]\r\nRank=y\r\n");
   ordvik().WriteSetting("Team", "Boston Braves");
   EXPECT_EQ(Content(),
-            "; mine\r\n[Other]\r\nTeam=x\r\n\r\n[Frostmark]\r\nColour=blue\r\nTeam=Boston "
+            "; mine\r\n[Other]\r\nTeam=x\r\n\r\n[Frostmark]\r\nColor=blue\r\nTeam=Boston "
             "Braves\r\n\r\n[Last]\r\nRank=y\r\n");
   EXPECT_EQ(Read("Team"), "Boston Braves");
 }

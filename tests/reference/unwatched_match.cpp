@@ -77,26 +77,26 @@ void UnwatchedMatch::PlayStep(RollTrace& rolls) {
 }
 
 void UnwatchedMatch::FaceOff(RollTrace& rolls) {
-  std::string first_centre;
-  std::string second_centre;
+  std::string first_center;
+  std::string second_center;
   for (const std::string& record : line1_stats) {
-    if (Contains(record, "CF")) first_centre = record;
+    if (Contains(record, "CF")) first_center = record;
   }
   for (const std::string& record : line2_stats) {
-    if (Contains(record, "CF")) second_centre = record;
+    if (Contains(record, "CF")) second_center = record;
   }
-  if (first_centre.empty()) {
+  if (first_center.empty()) {
     for (const std::string& record : line1_stats) {
-      if (Contains(record, "RF")) first_centre = record;
+      if (Contains(record, "RF")) first_center = record;
     }
   }
-  if (second_centre.empty()) {
+  if (second_center.empty()) {
     for (const std::string& record : line2_stats) {
-      if (Contains(record, "RF")) second_centre = record;
+      if (Contains(record, "RF")) second_center = record;
     }
   }
   puck_team = rolls.Next(2, "unwatched FaceOff, who wins it");
-  puck_carrier = puck_team == 1 ? first_centre : second_centre;
+  puck_carrier = puck_team == 1 ? first_center : second_center;
   LoadIceLists();
   passes_left = rolls.Next(6, "unwatched FaceOff, passes");
 }

@@ -68,16 +68,16 @@ void WatchedMatch::PlayStep(RollTrace& rolls) {
 }
 
 void WatchedMatch::FaceOff(RollTrace& rolls) {
-  std::string first_centre;
-  std::string second_centre;
+  std::string first_center;
+  std::string second_center;
   for (const std::string& record : line1_stats) {
-    if (Contains(record, "CF")) first_centre = record;
+    if (Contains(record, "CF")) first_center = record;
   }
   for (const std::string& record : line2_stats) {
-    if (Contains(record, "CF")) second_centre = record;
+    if (Contains(record, "CF")) second_center = record;
   }
   puck_team = rolls.Next(2, "watched FaceOff, who wins it");
-  puck_carrier = puck_team == 1 ? first_centre : second_centre;
+  puck_carrier = puck_team == 1 ? first_center : second_center;
   LoadIceLists();
   Report(NameOf(puck_carrier) + " wins the face off!");
   passes_left = rolls.Next(6, "watched FaceOff, passes");

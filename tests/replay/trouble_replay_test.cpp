@@ -126,10 +126,10 @@ TEST_P(TroubleReplay, TwoFranchisesInOneRun) {
   replay.Run();
 }
 
-TEST_P(TroubleReplay, ALineUpWithoutItsCentre) {
+TEST_P(TroubleReplay, ALineUpWithoutItsCenter) {
   DoCreateTeam(replay, "Montreal", "Breeze");
   replay.Do(
-      "the centre's way to training",
+      "the center's way to training",
       [](Program& program) {
         program.franchise.MainRoster.Select(4);
         program.franchise.Command3.Click();

@@ -91,9 +91,9 @@ TEST_P(WatchedReplay, OddLines) {
   replay.Run();
 }
 
-// Without a centre the winner of a face-off is nobody: passes from nobody, or the end of the
+// Without a center the winner of a face-off is nobody: passes from nobody, or the end of the
 // program when nobody is to shoot.
-TEST_P(WatchedReplay, NoCentre) {
+TEST_P(WatchedReplay, NoCenter) {
   Whim whim(GetParam());
   Replay replay(GetParam());
   PutTeams(replay, WithoutPositions(ProperRoster(whim), {"CF"}), ProperRoster(whim));

@@ -587,7 +587,7 @@ TEST_F(CutOffNewTest, ABuildWithinABuildThatIsNotWholeKeepsTheMark) {
   EXPECT_TRUE(IsMarked());
 }
 
-// The mark of this program's own work is no sign of a cut: the count of teams decides as ever.
+// The mark of this program's own work is not a sign of a cut: the count of teams decides as ever.
 TEST_F(CutOffNewTest, NewWithinABuildAsksByTheCountOfTeams) {
   world.FillWorld();
   for (const char* rank : {"Rank E", "Rank D", "Rank C", "Rank B", "Rank A"}) {
@@ -639,7 +639,7 @@ TEST_F(CutOffNewTest, ABeginningWithinABeginningLeavesTheMarkToTheOuterOne) {
   EXPECT_FALSE(IsMarked());
 }
 
-// The game before had a team of this name too: its week and tables are no part of the new world.
+// The game before had a team of this name too: its week and tables are not part of the new world.
 TEST_F(CutOffNewTest, ABeginningThatWasCutOffIsNotTheGameBefore) {
   New();
   Begin();

@@ -160,7 +160,7 @@ TEST(WindowContract, TheMarkInTheCornerLeavesALockedDesk) {
   });
 }
 
-// Whether both have one size, and one centre within a pixel.
+// Whether both have one size, and one center within a pixel.
 void ExpectSamePlace(const XWindow& one, const XWindow& other) {
   EXPECT_EQ(one.place.size(), other.place.size());
   EXPECT_LE((one.place.center() - other.place.center()).manhattanLength(), 1);
