@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QPointer>
 #include <QTime>
 #include <QTimer>
 #include <QUrl>
@@ -189,8 +190,21 @@ void QtFrontEnd::Dress() {
   RefitWindows();
 }
 
+// From the back to the front: each asks for the keyboard as it comes, and the screen in front,
+// above which the desk of a watched game must not rise, has it last.
 void QtFrontEnd::RefitWindows() {
-  for (const auto& [screen, window] : windows_) window->Refit();
+  const QPointer<QWidget> active = QApplication::activeWindow();
+  for (const auto& [screen, window] : windows_) {
+    if (!screen->Visible()) window->Refit();
+  }
+  if (screens_ == nullptr) return;
+  for (const bool popups : {false, true}) {
+    for (const Screen* screen : screens_->VisibleOnes()) {
+      ScreenWindow* window = Window(*screen);
+      if (window != nullptr && screen->IsPopup() == popups) window->Refit();
+    }
+  }
+  if (active != nullptr) active->activateWindow();
 }
 
 QWidget* QtFrontEnd::OpenerOf(const Screen& popup) const {

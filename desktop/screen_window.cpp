@@ -163,6 +163,11 @@ void ScreenWindow::Refit() {
   layout()->activate();
   FitShadow();
   if (!isVisible() || isMinimized()) return;
+  if (opener_ != nullptr && windowHandle()->transientParent() != opener_->windowHandle()) {
+    // What it lies over has become another window, and only on coming up does it say over which.
+    hide();
+    StayOverOpener();
+  }
   if (isFullScreen() != FillsDesktop()) {
     // A window manager gives a window that was born full the same size again when it is to be less:
     // only a new one comes as it should.
@@ -189,9 +194,13 @@ void ScreenWindow::Appear(QWidget* opener) {
   FitShadow();
   FitSize();
   Place();
-  if (opener == nullptr) return;
+  StayOverOpener();
+}
+
+void ScreenWindow::StayOverOpener() {
+  if (opener_ == nullptr) return;
   winId();  // makes the window, which is what can have an opener
-  windowHandle()->setTransientParent(opener->windowHandle());
+  windowHandle()->setTransientParent(opener_->windowHandle());
 }
 
 void ScreenWindow::FitSize() {

@@ -60,6 +60,7 @@ class ScreenWindow : public QWidget {
   void Help();
   void LeaveProgram();
   void Appear(QWidget* opener);
+  void StayOverOpener();
   void ShowInState();
   bool FillsDesktop() const;
   void FitSize();

@@ -25,6 +25,7 @@
 #include "desktop/widgets/roles.h"
 #include "desktop/widgets/room.h"
 #include "match/game.h"
+#include "records/leagues.h"
 #include "records/lines/player_record.h"
 
 namespace frostmark {
@@ -109,7 +110,8 @@ class Commentator : public QObject {
     const int visitor = Goals(2);
     const QString own = own_team_();
     const QString score =
-        QStringLiteral("%1 %2 - %3 %4").arg(TeamName(1)).arg(home).arg(visitor).arg(TeamName(2));
+        QStringLiteral("%1 %2 - %3 %4")
+            .arg(TeamName(1), QString::number(home), QString::number(visitor), TeamName(2));
     if (home == visitor) {
       return page_.banner.Hang({"TIED", score, {}, QColor(palette::kPanel), QColor(palette::kIce)});
     }
@@ -123,10 +125,15 @@ class Commentator : public QObject {
 
   int Goals(int team) const { return QString::fromStdString(game_.Goals(team).Caption()).toInt(); }
 
+  // Of several at a position the last, whose rating stands on the chip.
   void NamePlayers(int team, const RecordList& line) {
-    for (int i = 0; i < line.ListCount(); ++i) {
-      page_.rink.SetName(team, Shown(FieldView(line.List(i), Field::kPosition)),
-                         Shown(FieldView(line.List(i), Field::kName)));
+    for (const char* position : kRosterOrder) {
+      QString name;
+      for (int i = 0; i < line.ListCount(); ++i) {
+        if (FieldView(line.List(i), Field::kPosition) != position) continue;
+        name = Shown(FieldView(line.List(i), Field::kName));
+      }
+      page_.rink.SetName(team, position, name);
     }
   }
 

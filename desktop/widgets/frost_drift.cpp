@@ -15,6 +15,8 @@ constexpr std::chrono::milliseconds kAfterFirstFrame{600};
 // Slow enough for a crystal to move by about a pixel.
 constexpr std::chrono::milliseconds kTick{66};
 constexpr std::size_t kCrystals = 26;
+// Nobody watches for longer; the next time the window is the active one they drift again.
+constexpr int kTicks = 1800;
 
 // Anything between 0 and 1, the same for a crystal at every call.
 double Chance(std::size_t crystal, unsigned int what) {
@@ -66,6 +68,7 @@ void FrostDrift::hideEvent(QHideEvent* event) {
 
 void FrostDrift::Follow() {
   if (!isVisible() || !isActiveWindow() || !MotionWanted()) return tick_.stop();
+  ticks_left_ = kTicks;
   if (!tick_.isActive()) tick_.start();
 }
 
@@ -85,6 +88,7 @@ QRect FrostDrift::Around(std::size_t crystal) const {
 }
 
 void FrostDrift::Tick() {
+  if (--ticks_left_ == 0) tick_.stop();
   time_ += std::chrono::duration<double>(kTick).count();
   QRegion changed;
   for (std::size_t i = 0; i < places_.size(); ++i) changed += Around(i);

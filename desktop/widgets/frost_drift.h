@@ -39,6 +39,7 @@ class FrostDrift : public QWidget {
   QTimer tick_;
   std::vector<QPointF> places_;
   double time_ = 0;  // seconds in motion
+  int ticks_left_ = 0;
 };
 
 }  // namespace frostmark

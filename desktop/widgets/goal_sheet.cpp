@@ -63,7 +63,10 @@ void GoalSheet::ShowThem() {
     shown = more;
   }
   setText(shown);
-  setToolTip(whole_.join('\n').toHtmlEscaped().replace('\n', "<br>"));
+  // As markup in any case: a single goal by somebody with an "&" would not be taken for it.
+  setToolTip(whole_.isEmpty()
+                 ? QString()
+                 : "<p style='white-space:pre'>" + whole_.join('\n').toHtmlEscaped() + "</p>");
   setAccessibleName(whole_.isEmpty() ? QStringLiteral("No goals") : whole_.join(", "));
 }
 

@@ -32,10 +32,14 @@ class MarkedTabs::Bar : public QTabBar {
 
   void Mark(int tab, Manner manner, const QString& why) {
     if (tab == marked_ && manner == manner_) return;
-    if (marked_ >= 0) setTabToolTip(marked_, {});
+    if (marked_ >= 0) setTabToolTip(marked_, unmarked_tip_);
     marked_ = tab;
     manner_ = manner;
-    if (marked_ >= 0) setTabToolTip(marked_, why);
+    if (marked_ >= 0) {
+      // The tab goes on telling its name and its key.
+      unmarked_tip_ = tabToolTip(marked_);
+      setTabToolTip(marked_, unmarked_tip_.isEmpty() ? why : why + ". " + unmarked_tip_);
+    }
     glow_.stop();
     if (marked_ >= 0 && manner_ == Manner::kCalling && MotionWanted()) glow_.start();
     update();
@@ -86,6 +90,7 @@ class MarkedTabs::Bar : public QTabBar {
 
   int marked_ = -1;
   Manner manner_ = Manner::kStill;
+  QString unmarked_tip_;  // of the marked tab
   QVariantAnimation glow_;
 };
 

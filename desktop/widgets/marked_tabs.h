@@ -14,7 +14,8 @@ class MarkedTabs : public QTabWidget {
 
   explicit MarkedTabs(QWidget* parent = nullptr);
 
-  // Marks TAB, -1 for none. WHY is its tooltip, which a screen reader says too.
+  // Marks TAB, -1 for none. WHY stands before its tooltip, and a screen reader
+  // says both.
   void Mark(int tab, Manner manner, const QString& why);
 
   int Marked() const;

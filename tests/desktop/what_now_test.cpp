@@ -158,8 +158,8 @@ TEST_F(WhatNow, TheOwnLeagueIsMarkedInTheStandings) {
   franchise().MyRank.SetCaption("Rank C");
   Settle();
   EXPECT_EQ(leagues.Marked(), 3);
-  EXPECT_EQ(leagues.tabBar()->tabToolTip(3), "The league of your team");
-  EXPECT_EQ(leagues.tabBar()->tabToolTip(0), "");
+  EXPECT_EQ(leagues.tabBar()->tabToolTip(3), "The league of your team. Rank C (Ctrl+4)");
+  EXPECT_EQ(leagues.tabBar()->tabToolTip(0), "Rank F (Ctrl+1)");
   EXPECT_EQ(leagues.currentIndex(), 0) << "no page is turned";
 }
 

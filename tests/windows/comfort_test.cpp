@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QGuiApplication>
 #include <QLayout>
 #include <QScreen>
 #include <string>
@@ -106,6 +107,27 @@ TEST_F(Comfort, F11FillsTheDesktopAndGivesItBack) {
     sitting.x().Key("Escape");
     PressUntil(sitting, "F11", [&](QRect now) { return now == usual; });
     EXPECT_FALSE(sitting.Ask([] { return preferences::FullScreen(); }));
+  });
+}
+
+// The desk lies under the rink, with the same size at the same place.
+TEST_F(Comfort, AWatchedGameStaysInFrontOfTheDesk) {
+  Sit([](Sitting& sitting) {
+    sitting.StartFranchise();
+    sitting.Click(sitting.program().franchise, "HighButton1");
+    Game& game = sitting.program().game;
+    sitting.UntilInFront(game);
+    const QRect whole(QPoint(), sitting.x().Screen());
+    const QRect usual = sitting.Window(game).place;
+    const auto press = [&](const char* keys, const std::function<bool(QRect)>& wanted) {
+      sitting.x().Key(keys);
+      sitting.Until(keys, [&] { return wanted(sitting.Window(game).place); });
+      sitting.UntilInFront(game);
+    };
+    press("ctrl+minus", [&](QRect now) { return now.width() < usual.width(); });
+    press("ctrl+0", [&](QRect now) { return now == usual; });
+    press("F11", [&](QRect now) { return now == whole; });
+    press("F11", [&](QRect now) { return now == usual; });
   });
 }
 
