@@ -12,7 +12,8 @@ namespace frostmark {
 
 // The ribbon over the ice that keeps what matters in reach of the eye: the last goals, saves and
 // steals of the home team on the left and of the visitor on the right, newest on top and largest.
-// Each can be read for at least 1.5 seconds, the newest of a team until its next. It takes no mouse.
+// Each can be read for at least 1.5 seconds, the newest of a team until its next. It takes no
+// mouse.
 class DeedRibbon : public QWidget {
   Q_OBJECT
 
