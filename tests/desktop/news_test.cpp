@@ -79,6 +79,25 @@ TEST_F(News, WithoutAnOwnGameThereIsNone) {
 }
 
 // Rows are drawn apart but told, row by row, as they stand in the list.
+// Whoever has opened the news once sees the newest of the next week too.
+TEST_F(News, TheNewestIsOnTop) {
+  list().setFocus();
+  Settle();
+  franchise().XTab1.SetFront(0);
+  Settle();
+  for (int week = 2; week < 4; ++week) {
+    game_.front_end().guard().Call([this] { franchise().PressBegin(); });
+  }
+  franchise().XTab1.SetFront(1);
+  Settle();
+  EXPECT_EQ(list().verticalScrollBar()->value(), 0);
+  // Unless they are reading further down.
+  list().verticalScrollBar()->setValue(40);
+  franchise().Alerts.AddItem("Nowhere Nobodies beat Elsewhere Others 3 to 1", 0);
+  Settle();
+  EXPECT_GT(list().verticalScrollBar()->value(), 0);
+}
+
 TEST_F(News, TheRowsAreThoseOfTheList) {
   QAccessibleInterface* rows = QAccessible::queryAccessibleInterface(&list());
   ASSERT_EQ(rows->childCount(), franchise().Alerts.ListCount());
