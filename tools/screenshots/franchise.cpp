@@ -1,22 +1,7 @@
-#include <QListView>
-
-#include "desktop/decorations.h"
-#include "desktop/screen_form.h"
-#include "desktop/screen_window.h"
 #include "tools/screenshots/album.h"
 
 namespace frostmark {
 namespace {
-
-// Scrolls the news down to the user's own game of the week, which is among the first to be played
-// and so among the last of the news.
-void ShowOwnGame(Album& album) {
-  const Franchise& franchise = album.program().franchise;
-  auto& alerts = Part<QListView>(album.front_end().Window(franchise)->form(), "Alerts");
-  int own = 0;
-  while (franchise.Alerts.List(own).find(franchise.TeamName.Caption()) == std::string::npos) ++own;
-  alerts.scrollTo(alerts.model()->index(own + 3, 0));
-}
 
 // Some weeks into a season: the desk of the franchise, tab by tab, and a player.
 void TakeDesk(Album& album) {
@@ -29,7 +14,6 @@ void TakeDesk(Album& album) {
   for (int week = 1; week < 5; ++week) franchise.HighButton1.Click();
   album.Take(franchise, "franchise-main");
   franchise.XTab1.SetFront(1);
-  ShowOwnGame(album);
   album.Take(franchise, "franchise-alerts");
   franchise.XTab1.SetFront(2);
   album.Take(franchise, "franchise-standings");
