@@ -5,6 +5,7 @@
 #include <fstream>
 
 #include "bench/figures.h"
+#include "bench/ratios.h"
 #include "bench/world_for_bench.h"
 #include "records/leagues.h"
 #include "season/week_table.h"
@@ -66,20 +67,21 @@ void PrintTriesPerLeague() {
   std::printf("\n");
 }
 
-void PrintHundredSeasons() {
+bool HundredSeasonsHold() {
   WorldForBench world;
   Stretch last;
   PlayTenSeasons(world);  // warm up: lists and files reach their size
   const Stretch first = PlayTenSeasons(world);
   for (int i = 0; i < 9; ++i) last = PlayTenSeasons(world);
   std::printf(
-      "\nA hundred seasons: %.1f ms and %.0f rolls a season in the first ten, %.1f ms and %.0f "
-      "rolls "
-      "in the last ten (time %.3f, rolls %.3f); resident %.2f MB, then %.2f (%.3f)\n",
+      "\n%.1f ms and %.0f rolls a season in the first ten, %.1f ms and %.0f in the last ten\n",
       first.milliseconds_a_season, first.rolls_a_season, last.milliseconds_a_season,
-      last.rolls_a_season, last.milliseconds_a_season / first.milliseconds_a_season,
-      last.rolls_a_season / first.rolls_a_season, first.megabytes, last.megabytes,
-      last.megabytes / first.megabytes);
+      last.rolls_a_season);
+  const double slower = last.milliseconds_a_season / last.rolls_a_season /
+                        (first.milliseconds_a_season / first.rolls_a_season);
+  const bool flat = Holds("Season 100 against season 10, a roll", slower, "times", 1.1);
+  return Holds("Memory after 100 against 10", last.megabytes / first.megabytes, "times", 1.05) &&
+         flat;
 }
 
 }  // namespace frostmark

@@ -30,7 +30,7 @@ QString TheGame() {
 
 // The strip's other tabs have the digits after the first one's.
 QString KeyText(const Control& control, const KeyHint& hint) {
-  const QString key = QString::fromLatin1(hint.key);
+  QString key = QString::fromLatin1(hint.key);
   if (control.Kind() != ControlKind::kTabStrip || key.isEmpty()) return key;
   const auto tabs = static_cast<int>(static_cast<const TabStrip&>(control).Tabs().size());
   return QStringLiteral("%1 to %2").arg(key).arg(key.back().digitValue() + tabs - 1);
