@@ -19,9 +19,9 @@ constexpr int kWorldIsOpen = 2;
 // The world is open elsewhere: in a window, which comes to the front, or in a console.
 int LeaveItToTheOther(const frostmark::WorldClaim& claim) {
   if (claim.Knock()) return 0;
-  using namespace frostmark;
-  ShowMessageBox({BoxIcon::kInformation, BoxButtons::kOk, "This world is open in a console."},
-                 nullptr);
+  frostmark::ShowMessageBox({frostmark::BoxIcon::kInformation, frostmark::BoxButtons::kOk,
+                             "This world is open in a console."},
+                            nullptr);
   return kWorldIsOpen;
 }
 

@@ -102,12 +102,12 @@ QList<int> DesignedSpaces(QLayout& layout) {
   if (known.isValid()) return known.value<QList<int>>();
   const QMargins margins = layout.contentsMargins();
   const auto* grid = qobject_cast<QGridLayout*>(&layout);
-  const QList<int> spaces = {margins.left(),
-                             margins.top(),
-                             margins.right(),
-                             margins.bottom(),
-                             grid != nullptr ? grid->horizontalSpacing() : layout.spacing(),
-                             grid != nullptr ? grid->verticalSpacing() : layout.spacing()};
+  QList<int> spaces = {margins.left(),
+                       margins.top(),
+                       margins.right(),
+                       margins.bottom(),
+                       grid != nullptr ? grid->horizontalSpacing() : layout.spacing(),
+                       grid != nullptr ? grid->verticalSpacing() : layout.spacing()};
   layout.setProperty(kDesigned, QVariant::fromValue(spaces));
   return spaces;
 }

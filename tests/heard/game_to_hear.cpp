@@ -10,7 +10,12 @@
 // The whole game in a new world, for a listener: it waits for nobody but the user, and a watched
 // game is over in seconds. Ends with the game's own exit code.
 int main(int argc, char** argv) {
-  using namespace frostmark;
+  using frostmark::DressApplication;
+  using frostmark::FittingZoom;
+  using frostmark::Game;
+  using frostmark::Guard;
+  using frostmark::Ticker;
+  namespace test = frostmark::test;
   constexpr std::chrono::milliseconds kStep(5);
 
   QApplication application(argc, argv);
