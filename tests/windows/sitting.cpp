@@ -16,7 +16,7 @@ namespace {
 
 using std::chrono::steady_clock;
 
-constexpr std::chrono::seconds kPatience(20);
+constexpr std::chrono::seconds kPatience(60);
 constexpr std::chrono::milliseconds kBetweenLooks(2);
 
 // Ends a script whose test has failed.
