@@ -101,14 +101,16 @@ TEST(WindowContract, TheDeskDoesNotCloseBeforeTheNewSeasonIsSaved) {
       program.f_draft.Command1.Enable();
     });
     CloseInBetween closing(sitting);
+    bool closed = false;
     sitting.Ask([&] {
       front_end.at_yield = [&] {
-        if (!program.franchise.Visible() || program.f_draft.Visible()) return;
-        front_end.at_yield = nullptr;
+        if (closed || !program.franchise.Visible() || program.f_draft.Visible()) return;
+        closed = true;
         closing.Do();
       };
     });
     sitting.StartSeason();
+    sitting.Ask([&] { front_end.at_yield = nullptr; });
     EXPECT_TRUE(closing.Came());
     EXPECT_EQ(sitting.Ask([&] { return front_end.ExitCode(); }), -1);
     sitting.x().Close(sitting.Window(program.franchise).id);
